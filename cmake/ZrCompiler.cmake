@@ -1,0 +1,19 @@
+# SPDX-License-Identifier: GPL-3.0-or-later
+# The language, the warnings and the sanitizers that every target of this project is built with.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_AUTOMOC ON)
+
+add_library(zr_warnings INTERFACE)
+target_compile_options(zr_warnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<BOOL:${ZR_WARNINGS_AS_ERRORS}>:-Werror>)
+target_compile_definitions(zr_warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS)
+
+if(ZR_SANITIZE)
+    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+    add_link_options(-fsanitize=address,undefined)
+endif()
