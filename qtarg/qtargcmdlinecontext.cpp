@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qtargcmdlinecontext.h"
+
+const QString QtArgCmdLineContext::m_null;
+
+QtArgCmdLineContext::QtArgCmdLineContext(const QStringList &words) : words(words) {}
+
+const QString &QtArgCmdLineContext::next() {
+    return atEnd() ? m_null : words.at(firstWord++);
+}
+
+void QtArgCmdLineContext::prepend(const QString &word) {
+    // A word that was taken has left its place free.
+    if (firstWord > 0)
+        words[--firstWord] = word;
+    else
+        words.prepend(word);
+}
