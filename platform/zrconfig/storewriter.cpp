@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "storewriter.h"
+
+#include "configfile.h"
+
+#include <QAtomicInt>
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMap>
+#include <QSettings>
+
+#include <chrono>
+#include <cstdio>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Values = QMap<QString, QVariant>;
+
+Values valuesIn(const QString &file) {
+    const QSettings settings(file, QSettings::IniFormat);
+    Values values;
+    for (const QString &key : settings.allKeys())
+        values.insert(key, settings.value(key));
+    return values;
+}
+
+bool write(const QString &file, const Values &values) {
+    QSettings settings(file, QSettings::IniFormat);
+    for (auto value = values.cbegin(); value != values.cend(); ++value)
+        settings.setValue(value.key(), value.value());
+    settings.sync();
+    return settings.status() == QSettings::NoError;
+}
+
+/// QSettings remembers files by name, time and size: a name used before could be answered from memory.
+QString unusedName() {
+    static QAtomicInt number;
+    return QString::number(number.fetchAndAddRelaxed(1));
+}
+
+/// Writes the values into a new file and reads them back under another name. Empty when they do not agree.
+QString writtenInFull(const QDir &directory, const Values &values) {
+    const QString written = directory.filePath(unusedName());
+    const QString readBack = directory.filePath(unusedName());
+    if (!write(written, values) || !QFile::rename(written, readBack) || valuesIn(readBack) != values)
+        return {};
+    return readBack;
+}
+
+/// QSettings reads a file again only when its time, in whole milliseconds, or its size has changed.
+void makeNewerThan(const QString &newFile, const QString &oldFile) {
+    const QDateTime old = QFileInfo(oldFile).lastModified();
+    QFile file(newFile);
+    if (QFileInfo(newFile).lastModified() <= old && file.open(QIODevice::ReadWrite))
+        file.setFileTime(old.addMSecs(1), QFileDevice::FileModificationTime);
+}
+
+bool putInPlace(const QString &newFile, const QString &file) {
+    makeNewerThan(newFile, file);
+    return flushToDisk(newFile) && std::rename(QFile::encodeName(newFile), QFile::encodeName(file)) == 0 &&
+           flushToDisk(file);
+}
+
+} // namespace
+
+bool storeValue(const QString &file, const QString &key, const QVariant &value) {
+    if (!QDir().mkpath(QFileInfo(file).path()))
+        return false;
+    // The lock that QSettings takes for its own writing.
+    QLockFile lock(file + ".lock"_L1);
+    if (!lock.tryLock(5s))
+        return false;
+
+    QDir workplace(file + ".writing"_L1);
+    workplace.removeRecursively();
+    if (!workplace.mkpath(u"."_s))
+        return false;
+    Values values = valuesIn(file);
+    values.insert(key, value);
+    const QString newFile = writtenInFull(workplace, values);
+    const bool stored = !newFile.isEmpty() && putInPlace(newFile, file);
+    workplace.removeRecursively();
+    return stored;
+}
