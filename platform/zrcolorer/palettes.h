@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QPalette>
+
+// One function a palette, each in the file named after it.
+QPalette genericWindowPalette();
+QPalette chromePalette();
+QPalette timeButtonPalette();
+QPalette qualityPalette();

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QProxyStyle>
+
+/// The instrument's look, laid over another style, so that plain Qt widgets of a plug-in look right by themselves.
+///
+/// Buttons are rounded and answer a press with the accent colour, the focus is a ring that can be seen from two
+/// metres, scroll bars are wide enough for a thumb, tables have no grid of their own. A widget whose property
+/// "palette_id" names a palette of PaletteFactory gets that palette when it is first shown, and again whenever
+/// the property changes after that. GUI thread only.
+class StyleOverride : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    /// Takes `base` over. The application's own current style may be handed in.
+    explicit StyleOverride(QStyle *base);
+
+    using QProxyStyle::polish;
+    void polish(QWidget *widget) override;
+    using QProxyStyle::unpolish;
+    void unpolish(QWidget *widget) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                       const QWidget *widget) const override;
+    void drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                     const QWidget *widget) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                            const QWidget *widget) const override;
+    QRect subElementRect(SubElement element, const QStyleOption *option,
+                         const QWidget *widget) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                         const QWidget *widget) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                           const QWidget *widget) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returnData) const override;
+};

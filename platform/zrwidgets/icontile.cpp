@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "icontile.h"
+
+#include "fontsizes.h"
+
+#include <QPainter>
+#include <QStyle>
+#include <QStyleOption>
+
+namespace {
+
+constexpr int pictureSize = 40;
+constexpr int pictureLeft = 16;
+constexpr int textLeft = 72;
+constexpr int textRight = 12;
+constexpr qreal radius = 10;
+
+QPixmap tinted(const QPixmap &picture, const QColor &color) {
+    QPixmap result = picture;
+    QPainter painter(&result);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(QRectF(QPointF(), picture.deviceIndependentSize()), color);
+    return result;
+}
+
+} // namespace
+
+IconTile::IconTile(const QIcon &icon, const QString &title, QWidget *parent) : QAbstractButton(parent) {
+    setIcon(icon);
+    setText(title);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+QSize IconTile::sizeHint() const {
+    return {220, 56};
+}
+
+QSize IconTile::minimumSizeHint() const {
+    return {textLeft + 40, pictureSize};
+}
+
+QPixmap IconTile::picture(bool isPressed) const {
+    const QPixmap pixmap = icon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF());
+    return isPressed ? tinted(pixmap, palette().color(QPalette::HighlightedText)) : pixmap;
+}
+
+void IconTile::paintEvent(QPaintEvent *) {
+    const bool isPressed = isDown() || isChecked();
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(isPressed ? QPalette::Highlight : QPalette::Mid), 1));
+    painter.setBrush(isPressed ? palette().highlight() : palette().base());
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+
+    painter.drawPixmap(pictureLeft, (height() - pictureSize) / 2, picture(isPressed));
+    painter.setFont(FontSizes::sized(font(), FontSizes::Large, QFont::Bold));
+    painter.setPen(palette().color(isPressed ? QPalette::HighlightedText : QPalette::Text));
+    const QRect textRect(textLeft, 0, width() - textLeft - textRight, height());
+    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, textRect.width()));
+
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
+    }
+}

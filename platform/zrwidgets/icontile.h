@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QAbstractButton>
+
+/// A plug-in's icon on a page: a picture and a name on a light tile that fills its cell. A name that is too long
+/// is elided; it never widens the page. GUI thread only.
+class IconTile : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    IconTile(const QIcon &icon, const QString &title, QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QPixmap picture(bool isPressed) const;
+};

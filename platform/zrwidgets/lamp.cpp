@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "lamp.h"
+
+#include <palettefactory.h>
+
+#include <QPainter>
+#include <QPainterPath>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qreal lampSize = 12;
+constexpr qreal ringWidth = 2;
+constexpr QColor notApplicable(0x8A, 0x90, 0xB4);
+
+QPainterPath lampShape(MeasQuality quality, const QRectF &box) {
+    QPainterPath shape;
+    switch (quality) {
+    case Bad:
+        shape.addRoundedRect(box, 1, 1);
+        break;
+    case Warning:
+        shape.addPolygon(
+            QPolygonF{QPointF(box.center().x(), box.top()), box.bottomRight(), box.bottomLeft()});
+        shape.closeSubpath();
+        break;
+    case Good:
+    case NotMeasured:
+        shape.addEllipse(box);
+        break;
+    }
+    return shape;
+}
+
+} // namespace
+
+QColor lampColor(MeasQuality quality) {
+    static const QPalette colors = PaletteFactory::getPalette(u"quality"_s);
+    switch (quality) {
+    case Good:
+        return colors.color(QPalette::Active, QPalette::Window);
+    case Warning:
+        return colors.color(QPalette::Inactive, QPalette::Window);
+    case Bad:
+        return colors.color(QPalette::Disabled, QPalette::Window);
+    case NotMeasured:
+        break;
+    }
+    return notApplicable;
+}
+
+void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality) {
+    const qreal size = qMin(lampSize, qMin(rect.width(), rect.height()));
+    QRectF box(0, 0, size, size);
+    box.moveCenter(rect.center());
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (quality == NotMeasured) {
+        const qreal inset = ringWidth / 2;
+        painter->setPen(QPen(lampColor(quality), ringWidth));
+        painter->drawPath(lampShape(quality, box.adjusted(inset, inset, -inset, -inset)));
+    } else {
+        painter->fillPath(lampShape(quality, box), lampColor(quality));
+    }
+    painter->restore();
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "measquality.h"
+
+#include <QColor>
+
+class QPainter;
+class QRectF;
+
+/// Colour of a lamp. The shape says the same, for those who cannot tell the colours apart.
+QColor lampColor(MeasQuality quality);
+
+/// Draws a lamp centred in `rect`: disc = good, triangle = warning, square = bad, ring = not measured.
+void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality);

@@ -1,0 +1,192 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ledpanel.h"
+
+#include "fontsizes.h"
+#include "lamp.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int tallestRow = 25;
+constexpr int lowestRow = 16;
+constexpr int columnWidth = 76;
+constexpr int lampWidth = 26;
+constexpr int padding = 6;
+constexpr qreal radius = 10;
+// Nobody can read more than this beside a lamp; measuring 64 KiB of text would only cost time.
+constexpr qsizetype longestShownName = 64;
+
+/// The font in which the name fits, down to half its width; the rest is cut with an ellipsis.
+QFont fittingFont(const QFont &font, const QString &name, int width) {
+    const int needed = QFontMetrics(font).horizontalAdvance(name);
+    if (needed <= width)
+        return font;
+    QFont tight = font;
+    constexpr int tightest = 60;
+    tight.setPixelSize(FontSizes::Small - 1);
+    tight.setStretch(qMax(tightest, 100 * width / needed));
+    return tight;
+}
+
+} // namespace
+
+LedPanel::LedPanel(QWidget *parent, bool horizontal) : QWidget(parent), isHorizontal(horizontal) {
+    setProperty("palette_id", u"Chrome"_s);
+    setFocusPolicy(Qt::TabFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent, false);
+}
+
+void LedPanel::setRounded(bool rounded) {
+    isRounded = rounded;
+    update();
+}
+
+void LedPanel::setMargins(int left, int top, int right, int bottom) {
+    ledMargins = QMargins(left, top, right, bottom);
+    update();
+}
+
+void LedPanel::clear(bool rebuild) {
+    leds.clear();
+    indexesByName.clear();
+    if (rebuild)
+        invokeRebuild();
+}
+
+void LedPanel::add(const QString &name, MeasQuality quality) {
+    indexesByName.insert(name, leds.size());
+    leds.append({name, quality});
+}
+
+void LedPanel::invokeRebuild() {
+    scrollOffset = 0;
+    update();
+}
+
+void LedPanel::update(QList<QPair<QString, QString>> &data) {
+    for (const auto &[name, state] : std::as_const(data)) {
+        const MeasQuality quality = qualityFromState(state);
+        const auto [first, last] = indexesByName.equal_range(name);
+        for (auto index = first; index != last; ++index) {
+            if (std::exchange(leds[*index].quality, quality) != quality)
+                update(ledRect(*index));
+        }
+    }
+}
+
+QSize LedPanel::sizeHint() const {
+    return isHorizontal ? QSize(columnWidth * int(qMin<qsizetype>(leds.size(), 8)), tallestRow + 2 * padding)
+                        : QSize(columnWidth - 4, tallestRow * 4);
+}
+
+QSize LedPanel::minimumSizeHint() const {
+    return {lampWidth, tallestRow};
+}
+
+QRect LedPanel::ledArea() const {
+    return rect().marginsRemoved(ledMargins).adjusted(0, padding, 0, -padding);
+}
+
+int LedPanel::rowHeight() const {
+    if (isHorizontal || leds.isEmpty())
+        return tallestRow;
+    return qBound(lowestRow, ledArea().height() / int(leds.size()), tallestRow);
+}
+
+QRect LedPanel::ledRect(qsizetype index) const {
+    const QRect area = ledArea();
+    if (isHorizontal)
+        return {area.x() + int(index) * columnWidth - scrollOffset, area.y(), columnWidth, area.height()};
+    return {area.x(), area.y() + int(index) * rowHeight() - scrollOffset, area.width(), rowHeight()};
+}
+
+void LedPanel::scrollTo(int offset) {
+    const QRect area = ledArea();
+    const int shown = isHorizontal ? area.width() : area.height();
+    const int needed = int(leds.size()) * (isHorizontal ? columnWidth : rowHeight());
+    const int bounded = qBound(0, offset, qMax(0, needed - shown));
+    if (std::exchange(scrollOffset, bounded) != bounded)
+        update();
+}
+
+void LedPanel::paintEvent(QPaintEvent *event) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Mid), 2) : QPen(Qt::NoPen));
+    painter.setBrush(palette().base());
+    const qreal corner = isRounded ? radius : 0;
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom()), corner, corner);
+
+    painter.setClipRect(ledArea());
+    const int step = isHorizontal ? columnWidth : rowHeight();
+    for (qsizetype index = scrollOffset / step; index < leds.size(); ++index) {
+        const QRect rect = ledRect(index);
+        if (isHorizontal ? rect.left() > event->rect().right() : rect.top() > event->rect().bottom())
+            break;
+        if (rect.intersects(event->rect()))
+            drawLed(&painter, leds[index], rect);
+    }
+}
+
+void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) const {
+    drawLamp(painter, QRect(rect.x(), rect.y(), lampWidth, rect.height()), led.quality);
+    const QRect textRect = rect.adjusted(lampWidth, 0, -2, 0);
+    const QString name = led.name.first(qMin(led.name.size(), longestShownName));
+    const QFont font =
+        fittingFont(FontSizes::sized(this->font(), FontSizes::Small, QFont::Bold), name, textRect.width());
+    painter->setFont(font);
+    painter->setPen(palette().color(QPalette::Text));
+    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                      QFontMetrics(font).elidedText(name, Qt::ElideRight, textRect.width()));
+}
+
+void LedPanel::resizeEvent(QResizeEvent *) {
+    scrollTo(scrollOffset);
+}
+
+void LedPanel::mousePressEvent(QMouseEvent *event) {
+    pressPosition = event->pos();
+    offsetAtPress = scrollOffset;
+    isDragged = false;
+}
+
+void LedPanel::mouseMoveEvent(QMouseEvent *event) {
+    const QPoint moved = event->pos() - pressPosition;
+    const int distance = isHorizontal ? moved.x() : moved.y();
+    isDragged |= qAbs(distance) >= QApplication::startDragDistance();
+    if (isDragged)
+        scrollTo(offsetAtPress - distance);
+}
+
+void LedPanel::mouseReleaseEvent(QMouseEvent *event) {
+    if (!isDragged && rect().contains(event->pos()))
+        emit clicked();
+}
+
+void LedPanel::wheelEvent(QWheelEvent *event) {
+    scrollTo(scrollOffset - event->angleDelta().y() / 4);
+}
+
+void LedPanel::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        emit clicked();
+        break;
+    case Qt::Key_Up:
+        scrollTo(scrollOffset - rowHeight());
+        break;
+    case Qt::Key_Down:
+        scrollTo(scrollOffset + rowHeight());
+        break;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "popuppanel.h"
+
+#include "popupplace.h"
+
+#include <QApplication>
+#include <QChildEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int shadowWidth = 10;
+constexpr int padding = 12;
+constexpr int spacing = 8;
+constexpr int borderWidth = 2;
+constexpr qreal radius = 10;
+constexpr int shadowAlpha = 10;
+
+void drawShadow(QPainter &painter, const QRectF &frame) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0, 0, 0, shadowAlpha));
+    for (int spread = shadowWidth; spread > 0; spread -= 2)
+        painter.drawRoundedRect(frame.adjusted(-spread, -spread, spread, spread), radius + spread,
+                                radius + spread);
+}
+
+} // namespace
+
+PopupPanel::PopupPanel(QWidget *parent)
+    : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint), panelLayout(new QVBoxLayout(this)) {
+    setProperty("palette_id", u"GenericWindow"_s);
+    // A press on the caller is to close the panel, not to open it again.
+    setAttribute(Qt::WA_NoMouseReplay);
+    panelLayout->setSpacing(spacing);
+    setHeadHeight(0);
+}
+
+void PopupPanel::setCallerRect(const QRect &rect) {
+    callerRect = rect;
+}
+
+void PopupPanel::addToLayout(QWidget *widget) {
+    widget->setParent(this);
+    if (panelLayout->indexOf(widget) < 0)
+        panelLayout->addWidget(widget);
+}
+
+void PopupPanel::childEvent(QChildEvent *event) {
+    QWidget::childEvent(event);
+    auto *const widget = qobject_cast<QWidget *>(event->child());
+    // Leaving is the layout's own business: it drops what is no longer a child of its widget.
+    if (event->added() && widget && !widget->isWindow() && panelLayout->indexOf(widget) < 0)
+        panelLayout->addWidget(widget);
+}
+
+void PopupPanel::setHeadHeight(int height) {
+    constexpr int margin = shadowWidth + padding;
+    panelLayout->setContentsMargins(margin, margin + height, margin, margin);
+}
+
+QRect PopupPanel::contentsArea() const {
+    constexpr int margin = shadowWidth + padding;
+    return rect().adjusted(margin, margin, -margin, -margin);
+}
+
+QRect PopupPanel::bounds() const {
+    const QWidget *const parent = parentWidget();
+    return parent ? parent->window()->geometry() : screen()->availableGeometry();
+}
+
+void PopupPanel::doResize() {
+    panelLayout->activate();
+    const QSize size = sizeHint().expandedTo(minimumSize());
+    // The shadow may leave the bounds, the panel not.
+    constexpr QMargins shadow(shadowWidth, shadowWidth, shadowWidth, shadowWidth);
+    setGeometry(placeBeside(callerRect, size.shrunkBy(shadow), bounds().marginsRemoved({4, 4, 4, 4}))
+                    .marginsAdded(shadow));
+}
+
+void PopupPanel::showEvent(QShowEvent *event) {
+    doResize();
+    // What lies under the shadow: a window cannot be translucent without a compositor.
+    QWidget *const below = parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
+    backdrop = below && below != this ? below->grab(QRect(below->mapFromGlobal(pos()), size())) : QPixmap();
+    QWidget::showEvent(event);
+}
+
+void PopupPanel::paintEvent(QPaintEvent *) {
+    const QRectF frame = QRectF(rect()).adjusted(shadowWidth, shadowWidth, -shadowWidth, -shadowWidth);
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().dark());
+    painter.drawPixmap(0, 0, backdrop);
+    painter.setRenderHint(QPainter::Antialiasing);
+    drawShadow(painter, frame);
+    constexpr qreal inset = borderWidth / 2.0;
+    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Button), borderWidth));
+    painter.setBrush(palette().window());
+    painter.drawRoundedRect(frame.adjusted(inset, inset, -inset, -inset), radius, radius);
+}
+
+void PopupPanel::keyPressEvent(QKeyEvent *event) {
+    if (event->key() == Qt::Key_Escape || event->key() == Qt::Key_Back)
+        close();
+    else
+        QWidget::keyPressEvent(event);
+}

@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "pressinglabel.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace {
+
+constexpr int touchHeight = 46;
+constexpr qreal radius = 10;
+constexpr qreal focusRingWidth = 3;
+
+void drawGround(QPainter &painter, const QRectF &rect, const QBrush &fill, const QPen &pen) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(fill);
+    painter.setPen(pen);
+    painter.drawRoundedRect(rect, radius, radius);
+}
+
+} // namespace
+
+PressingLabel::PressingLabel(QWidget *parent, bool keepsPicture)
+    : QLabel(parent), pictureIsKept(keepsPicture) {
+    setFocusPolicy(Qt::TabFocus);
+}
+
+QPixmap PressingLabel::downPixmap() const {
+    const QPixmap picture = pixmap();
+    if (picture.isNull() || pictureIsKept)
+        return picture;
+    QPixmap down(picture.size());
+    down.setDevicePixelRatio(picture.devicePixelRatio());
+    down.fill(Qt::transparent);
+    QPainter painter(&down);
+    drawGround(painter, QRectF(QPointF(), picture.deviceIndependentSize()), palette().highlight(), Qt::NoPen);
+    painter.drawPixmap(0, 0, picture);
+    return down;
+}
+
+QSize PressingLabel::sizeHint() const {
+    return QLabel::sizeHint().expandedTo({0, touchHeight});
+}
+
+void PressingLabel::paintEvent(QPaintEvent *event) {
+    {
+        QPainter painter(this);
+        if (isHeld && !pictureIsKept)
+            drawGround(painter, rect(), palette().highlight(), Qt::NoPen);
+        if (hasFocus()) {
+            const qreal inset = focusRingWidth / 2;
+            drawGround(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), Qt::NoBrush,
+                       QPen(palette().color(QPalette::Mid), focusRingWidth));
+        }
+    }
+    QLabel::paintEvent(event);
+}
+
+void PressingLabel::setHeld(bool held) {
+    if (std::exchange(isHeld, held) != held)
+        update();
+}
+
+void PressingLabel::mousePressEvent(QMouseEvent *) {
+    setHeld(true);
+}
+
+void PressingLabel::mouseReleaseEvent(QMouseEvent *event) {
+    const bool wasHeld = isHeld;
+    setHeld(false);
+    if (wasHeld && rect().contains(event->pos()))
+        emit clicked();
+}
+
+void PressingLabel::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Space:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+    case Qt::Key_Select:
+        emit clicked();
+        break;
+    default:
+        QLabel::keyPressEvent(event);
+    }
+}
