@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "commandline.h"
+#include "framebuffer.h"
+#include "installation.h"
+#include "ui/launcherwindow.h"
+
+#include <palettefactory.h>
+#include <qwsserver.h>
+#include <styleoverride.h>
+
+#include <QApplication>
+#include <QDebug>
+#include <QTranslator>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int screenWidth = 800;
+
+QStringList wordsOf(int argc, char *argv[]) {
+    QStringList words;
+    for (int i = 0; i < argc; ++i)
+        words.append(QString::fromLocal8Bit(argv[i]));
+    return words;
+}
+
+void loadTranslation(QTranslator &translator) {
+    const bool loaded = translator.load(u"resources/launcher_ru"_s, u":/main"_s);
+    qDebug() << "Loading translator..." << (loaded ? "OK" : "Failed");
+}
+
+void dress() {
+    QApplication::setPalette(PaletteFactory::getPalette(u"GenericWindow"_s));
+    QApplication::setStyle(new StyleOverride(QApplication::style()));
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    // The command line is answered before there is an application object: help has to work over a line
+    // without a display, and must not touch the screen of a launcher that runs already.
+    QTranslator translator;
+    loadTranslation(translator);
+    if (const std::optional<int> status = answerCommandLine(wordsOf(argc, argv)))
+        return *status;
+
+    const QApplication application(argc, argv);
+    QWSServer::setCursorVisible(false);
+    QCoreApplication::installTranslator(&translator);
+    registerInstallation();
+    dress();
+
+    LauncherWindow window;
+    window.resize(screenWidth, fbHeight());
+    window.show();
+    QApplication::setOverrideCursor(Qt::BlankCursor);
+    return QApplication::exec();
+}

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+class QGridLayout;
+class QWidget;
+
+/// The grid of icons on a collection's page: five rows by two columns, more when icons ask for more.
+namespace IconGrid {
+
+/// What became of an icon.
+struct Placement {
+    int row = 0;
+    int column = 0;
+    int rows = 1;
+    /// The icon that had the cell until now and has left the page's grid; null when there was none.
+    QWidget *replacedIcon = nullptr;
+    /// The cell asked for was far outside the grid, so the first free one was taken.
+    bool wasMoved = false;
+};
+
+/// The empty layout of a page.
+QGridLayout *makeButtonsLayout();
+
+/// Puts an empty placeholder into each of the first five rows' cells, so that they keep their size before icons
+/// arrive. `parent` owns the placeholders until the grid's own widget takes them.
+void initGrid(QGridLayout *grid, QWidget *parent);
+
+/// Number of grid rows that the icon asks to span with its property "rows".
+int rowsOf(const QWidget *icon);
+
+/// Places `icon` at the cell, over what was there. A replaced icon is hidden, not deleted.
+Placement place(QGridLayout *grid, QWidget *icon, int row, int column);
+
+} // namespace IconGrid
