@@ -17,3 +17,9 @@ if(ZR_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=address,undefined)
 endif()
+
+# The code under the fuzz targets tells the fuzzer where it has been.
+if(ZR_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link,address)
+    add_link_options(-fsanitize=address)
+endif()

@@ -1,15 +1,18 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
+add_custom_target(shipped_plugins)
+
 # zr_add_plugin(<name> SOURCES <file>... [LIBRARIES <target>...])
 #
-# A plug-in that ships with the launcher: lib<name>.so, built into plugins/ of the build tree and installed
-# where the shipped configuration looks for it.
+# A plug-in that ships with the launcher: lib<name>.so, where the shipped configuration looks for it, in the
+# build tree and in the installed one.
 function(zr_add_plugin name)
     cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_library(${name} MODULE ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE zr_warnings launcherplugin ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/launcher)
     set_target_properties(${name} PROPERTIES
-        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/plugins INSTALL_RPATH "$ORIGIN/../..")
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ZR_PLUGIN_DIR} INSTALL_RPATH "$ORIGIN/../..")
+    add_dependencies(shipped_plugins ${name})
     install(TARGETS ${name} LIBRARY DESTINATION ${ZR_PLUGIN_DIR})
 endfunction()

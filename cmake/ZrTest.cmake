@@ -12,3 +12,21 @@ function(zr_add_test name)
     add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/isolated $<TARGET_FILE:${name}>)
     set_tests_properties(${name} PROPERTIES TIMEOUT 120)
 endfunction()
+
+add_custom_target(fuzz_targets)
+
+# zr_add_fuzz_target(<name> SOURCES <file>... [LIBRARIES <target>...])
+#
+# A libFuzzer program; its seeds lie in corpus/ beside it. tests/support/run-fuzz-targets runs them all.
+function(zr_add_fuzz_target name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_link_libraries(${name} PRIVATE zr_warnings ${arg_LIBRARIES})
+    target_compile_options(${name} PRIVATE -fsanitize=fuzzer,address)
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer,address)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz)
+    add_custom_target(${name}_corpus ALL
+        COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_CURRENT_SOURCE_DIR}/corpus
+            ${PROJECT_BINARY_DIR}/fuzz/${name}.corpus)
+    add_dependencies(fuzz_targets ${name} ${name}_corpus)
+endfunction()
