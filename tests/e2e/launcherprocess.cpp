@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "launcherprocess.h"
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+const QString program = QStringLiteral(E2E_TREE "/bin/zr-launcher");
+constexpr int longestStartMs = 20'000;
+
+bool isProbeThere() {
+    return QDBusConnection::sessionBus().interface()->isServiceRegistered(u"zr.probe"_s);
+}
+
+} // namespace
+
+LauncherProcess::LauncherProcess() : environment(QProcessEnvironment::systemEnvironment()) {}
+
+LauncherProcess::~LauncherProcess() {
+    if (process.state() == QProcess::NotRunning)
+        return;
+    process.terminate();
+    process.waitForFinished();
+    // The bus drops the name a little later; the next launcher needs it.
+    [[maybe_unused]] const bool gone = QTest::qWaitFor([] { return !isProbeThere(); });
+}
+
+bool LauncherProcess::start(const QStringList &arguments) {
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    const bool answers = QTest::qWaitFor(
+        [this] { return isProbeThere() || process.state() == QProcess::NotRunning; }, longestStartMs);
+    if (!answers || !isProbeThere())
+        return false;
+    probe = std::make_unique<QDBusInterface>(u"zr.probe"_s, u"/"_s, u"zr.probe"_s);
+    // The probe is loaded before the window is shown.
+    return QTest::qWaitFor([this] { return isVisible(u"pageLauncher"_s); }, longestStartMs);
+}
+
+int LauncherProcess::runToEnd(const QStringList &arguments) {
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    process.waitForFinished();
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+void LauncherProcess::setScreenHeight(int pixels) {
+    const QString root = environment.value(u"ZR_SYSROOT"_s);
+    QDir().mkpath(root + "/dev"_L1);
+    QFile file(root + "/dev/fb0"_L1);
+    if (file.open(QIODevice::WriteOnly))
+        file.write(QByteArray::number(pixels));
+    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(E2E_SCREEN));
+    // The sanitizers want to come first themselves.
+    environment.insert(u"ASAN_OPTIONS"_s,
+                       environment.value(u"ASAN_OPTIONS"_s) + ":verify_asan_link_order=0"_L1);
+}
+
+QByteArray LauncherProcess::errors() {
+    errorBytes += process.readAllStandardError();
+    return errorBytes;
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDBusInterface>
+#include <QProcess>
+
+#include <memory>
+
+/// The installed launcher as a process, and the probe inside it.
+class LauncherProcess {
+public:
+    LauncherProcess();
+    /// Ends the process if it still runs.
+    ~LauncherProcess();
+
+    /// Environment for the next start; it begins as that of the test.
+    QProcessEnvironment environment;
+
+    /// Starts with `arguments` and waits until the probe answers. False when it does not come up.
+    bool start(const QStringList &arguments = {});
+    /// Starts and waits for the end; for command lines that do not lead to a run.
+    int runToEnd(const QStringList &arguments);
+
+    /// Gives the launcher a framebuffer of that height.
+    void setScreenHeight(int pixels);
+
+    QByteArray output() { return process.readAllStandardOutput(); }
+    QByteArray errors();
+
+    bool press(const QString &nameOrText) { return ask<bool>("press", {nameOrText}); }
+    QString caption() { return ask<QString>("caption"); }
+    QString shownPage() { return ask<QString>("shownPage"); }
+    QString backButtonText() { return ask<QString>("backButtonText"); }
+    QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
+    QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
+    QStringList windowSize() { return ask<QStringList>("windowSize"); }
+    bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }
+    bool grab(const QString &file) { return ask<bool>("grab", {file}); }
+    void goHome() { probe->call(QStringLiteral("goHome")); }
+
+private:
+    template <typename Answer>
+    Answer ask(const char *question, const QVariantList &arguments = {}) {
+        return probe->callWithArgumentList(QDBus::Block, QString::fromLatin1(question), arguments)
+            .arguments()
+            .value(0)
+            .template value<Answer>();
+    }
+
+    QProcess process;
+    std::unique_ptr<QDBusInterface> probe;
+    QByteArray errorBytes;
+};

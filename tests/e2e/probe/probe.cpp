@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "probe.h"
+
+#include "ui/launcherwindow.h"
+
+#include <checkbutton.h>
+#include <icontile.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QStackedWidget>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <typename Button>
+QStringList textsOf() {
+    QStringList texts;
+    for (const Button *const button : LauncherWindow::instance()->findChildren<Button *>()) {
+        if (button->isVisible())
+            texts.append(button->text());
+    }
+    return texts;
+}
+
+QWidget *header() {
+    for (QWidget *const child : LauncherWindow::instance()->findChildren<QWidget *>()) {
+        if (child->inherits("LauncherHeader"))
+            return child;
+    }
+    return nullptr;
+}
+
+void sendMouse(QWidget *widget, QEvent::Type type, Qt::MouseButtons held) {
+    const QPointF middle = QRectF(widget->rect()).center();
+    QMouseEvent event(type, middle, widget->mapToGlobal(middle), Qt::LeftButton, held, Qt::NoModifier);
+    QApplication::sendEvent(widget, &event);
+}
+
+} // namespace
+
+QStringList Probe::windowSize() const {
+    const QSize size = LauncherWindow::instance()->size();
+    return {QString::number(size.width()), QString::number(size.height())};
+}
+
+QString Probe::caption() const {
+    return static_cast<QLabel *>(header())->text();
+}
+
+QString Probe::backButtonText() const {
+    const auto *const button = header()->findChild<QPushButton *>();
+    return button->isVisible() ? button->text() : QString();
+}
+
+QString Probe::shownPage() const {
+    const QWidget *const page = LauncherWindow::instance()->getStackedWidget()->currentWidget();
+    return page->objectName().isEmpty() ? QString::fromLatin1(page->metaObject()->className())
+                                        : page->objectName();
+}
+
+QStringList Probe::selectorTexts() const {
+    return textsOf<CheckButton>();
+}
+
+QStringList Probe::iconTexts() const {
+    return textsOf<IconTile>();
+}
+
+QWidget *Probe::named(const QString &nameOrText) const {
+    for (QWidget *const widget : QApplication::allWidgets()) {
+        const auto *const button = qobject_cast<QAbstractButton *>(widget);
+        if (widget->isVisible() &&
+            (widget->objectName() == nameOrText || (button && button->text() == nameOrText)))
+            return widget;
+    }
+    return nullptr;
+}
+
+bool Probe::isVisible(const QString &name) const {
+    return named(name);
+}
+
+bool Probe::press(const QString &nameOrText) const {
+    QWidget *const widget = named(nameOrText);
+    if (!widget)
+        return false;
+    sendMouse(widget, QEvent::MouseButtonPress, Qt::LeftButton);
+    sendMouse(widget, QEvent::MouseButtonRelease, Qt::NoButton);
+    return true;
+}
+
+void Probe::goHome() const {
+    LauncherWindow::instance()->goHome();
+}
+
+bool Probe::grab(const QString &file) const {
+    LauncherWindow *const window = LauncherWindow::instance();
+    QPixmap picture = window->grab();
+    if (QWidget *const popup = QApplication::activePopupWidget())
+        QPainter(&picture).drawPixmap(popup->pos() - window->pos(), popup->grab());
+    return picture.save(file);
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+class QWidget;
+
+/// Answers questions about the launcher's widgets on the session bus, and presses them as a finger does.
+class Probe : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "zr.probe")
+
+public slots:
+    /// Width and height of the launcher's window.
+    QStringList windowSize() const;
+    QString caption() const;
+    QString backButtonText() const;
+    /// Object name, or else class name, of what the main stack shows.
+    QString shownPage() const;
+    QStringList selectorTexts() const;
+    QStringList iconTexts() const;
+    bool isVisible(const QString &name) const;
+    /// Presses and lets go in the middle of the visible widget of that object name or that text.
+    bool press(const QString &nameOrText) const;
+    void goHome() const;
+    /// Writes a picture of the window with its open pop-up.
+    bool grab(const QString &file) const;
+
+private:
+    QWidget *named(const QString &nameOrText) const;
+};
