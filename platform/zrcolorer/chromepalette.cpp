@@ -7,6 +7,9 @@ QPalette chromePalette() {
     const QColor line(0x1C, 0x26, 0x49);
     const QColor edge(0x5A, 0x69, 0xA6);
     const QColor onChrome(0xFF, 0xFF, 0xFF);
+    // Lighter than on the content: the accent of the pages would not be seen on navy.
+    const QColor accent(0x8C, 0x9E, 0xFF);
+    const QColor onAccent(0x10, 0x14, 0x2A);
     const QColor soft(0xD2, 0xD8, 0xF0);
 
     QPalette palette = genericWindowPalette();
@@ -17,6 +20,8 @@ QPalette chromePalette() {
     palette.setColor(QPalette::Text, onChrome);
     palette.setColor(QPalette::Button, sunk);
     palette.setColor(QPalette::ButtonText, onChrome);
+    palette.setColor(QPalette::Highlight, accent);
+    palette.setColor(QPalette::HighlightedText, onAccent);
     palette.setColor(QPalette::PlaceholderText, soft);
     palette.setColor(QPalette::Mid, edge);
     palette.setColor(QPalette::Dark, line);

@@ -38,18 +38,20 @@ void drawRounded(QPainter *painter, const QRectF &rect, const QBrush &fill, cons
     painter->restore();
 }
 
+void drawFocusRing(const QStyleOption &option, QPainter *painter) {
+    // On an accent ground the accent ring would not be seen.
+    const auto role = isPressedOrChecked(option) ? QPalette::HighlightedText : QPalette::Highlight;
+    drawRounded(painter, option.rect, Qt::NoBrush, QPen(option.palette.color(role), focusRingWidth));
+}
+
 void drawButtonBevel(const QStyleOptionButton &option, QPainter *painter) {
     const bool isLit = isPressedOrChecked(option);
     if (option.features & QStyleOptionButton::Flat && !isLit)
         return;
     drawRounded(painter, option.rect, option.palette.brush(isLit ? QPalette::Highlight : QPalette::Button),
                 QPen(option.palette.color(isLit ? QPalette::Highlight : QPalette::Mid), 1));
-}
-
-void drawFocusRing(const QStyleOption &option, QPainter *painter) {
-    // On an accent ground the accent ring would not be seen.
-    const auto role = isPressedOrChecked(option) ? QPalette::HighlightedText : QPalette::Highlight;
-    drawRounded(painter, option.rect, Qt::NoBrush, QPen(option.palette.color(role), focusRingWidth));
+    if (option.state & QStyle::State_HasFocus)
+        drawFocusRing(option, painter);
 }
 
 void drawHeaderSection(const QStyleOption &option, QPainter *painter) {

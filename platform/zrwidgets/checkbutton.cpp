@@ -52,11 +52,4 @@ void CheckButton::paintEvent(QPaintEvent *) {
     for (QString &line : lines)
         line = painter.fontMetrics().elidedText(line, Qt::ElideRight, textRect.width());
     painter.drawText(textRect, Qt::AlignCenter, lines.join(u'\n'));
-
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(option);
-        focus.rect = rect();
-        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
-    }
 }

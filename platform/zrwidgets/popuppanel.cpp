@@ -34,6 +34,8 @@ void drawShadow(QPainter &painter, const QRectF &frame) {
 PopupPanel::PopupPanel(QWidget *parent)
     : QWidget(parent, Qt::Popup | Qt::FramelessWindowHint), panelLayout(new QVBoxLayout(this)) {
     setProperty("palette_id", u"GenericWindow"_s);
+    // Letters and colours as in the window it belongs to.
+    setAttribute(Qt::WA_WindowPropagation);
     // A press on the caller is to close the panel, not to open it again.
     setAttribute(Qt::WA_NoMouseReplay);
     panelLayout->setSpacing(spacing);

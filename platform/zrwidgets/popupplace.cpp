@@ -3,7 +3,7 @@
 
 namespace {
 
-constexpr int gap = 2;
+constexpr int gap = 8;
 
 } // namespace
 

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "checkbutton.h"
+#include "controlbottompanel.h"
+
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+class ControlBottomPanelTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void positionOneIsTheRightEnd();
+    void removedWidgetLeavesItsPlace();
+    void sevenLongLabelsDoNotWidenTheRow();
+};
+
+void ControlBottomPanelTest::positionOneIsTheRightEnd() {
+    ControlBottomPanel row;
+    CheckButton first(u"PCM"_s), second(u"OTDR"_s), settings(u"Settings"_s);
+    row.addWidget(&first, 0, 0, Qt::Alignment());
+    row.addWidget(&settings, 1, 0, Qt::Alignment());
+    row.addWidget(&second, 0, 0, Qt::Alignment());
+    row.resize(720, 62);
+    row.show();
+    QCOMPARE(first.x(), 40);
+    QCOMPARE(second.x(), first.geometry().right() + 1 + 8);
+    QCOMPARE(settings.geometry().right() + 1, 720 - 40);
+    row.hide();
+    for (QWidget *const button : {&first, &second, &settings})
+        button->setParent(nullptr);
+}
+
+void ControlBottomPanelTest::removedWidgetLeavesItsPlace() {
+    ControlBottomPanel row;
+    auto *const first = new CheckButton(u"PCM"_s, &row);
+    auto *const second = new CheckButton(u"OTDR"_s, &row);
+    row.addWidget(first, 0, 0, Qt::Alignment());
+    row.addWidget(second, 0, 0, Qt::Alignment());
+    row.resize(720, 62);
+    row.show();
+    row.removeWidget(first);
+    delete first;
+    QTRY_COMPARE(second->x(), 40);
+}
+
+void ControlBottomPanelTest::sevenLongLabelsDoNotWidenTheRow() {
+    ControlBottomPanel row;
+    for (int i = 0; i < 7; ++i)
+        row.addWidget(new CheckButton(u"Передача данных"_s), i == 6, 0, Qt::Alignment());
+    QVERIFY(row.minimumSizeHint().width() <= 720);
+    row.resize(720, 62);
+    row.show();
+    for (const CheckButton *const button : row.findChildren<CheckButton *>()) {
+        QVERIFY(button->x() >= 0);
+        QVERIFY(button->geometry().right() < 720);
+    }
+}
+
+QTEST_MAIN(ControlBottomPanelTest)
+#include "tst_controlbottompanel.moc"

@@ -1,0 +1,213 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "lamp.h"
+#include "ledpanel.h"
+
+#include <palettefactory.h>
+
+#include <QImage>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QSignalSpy>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+using States = QList<QPair<QString, QString>>;
+
+/// Remembers which part of the panel was painted.
+class WatchedPanel : public LedPanel {
+public:
+    using LedPanel::LedPanel;
+    QRegion painted;
+
+protected:
+    void paintEvent(QPaintEvent *event) override {
+        painted += event->region();
+        LedPanel::paintEvent(event);
+    }
+};
+
+QImage lampPicture(MeasQuality quality) {
+    QImage picture(20, 20, QImage::Format_RGB32);
+    picture.fill(Qt::black);
+    QPainter painter(&picture);
+    drawLamp(&painter, picture.rect(), quality);
+    return picture;
+}
+
+} // namespace
+
+class LedPanelTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void stateTextsStandForQualities_data();
+    void stateTextsStandForQualities();
+    void lampsDifferInShapeNotOnlyInColour();
+    void onlyTheChangedLampIsPaintedAgain();
+    void unchangedStatesPaintNothing();
+    void allLampsOfANameFollow();
+    void rebuildWaitsUntilItIsAskedFor();
+    void pressAndReleaseInsideIsAClick();
+    void releaseOutsideIsNone();
+    void keysClickToo();
+    void manyLampsCanBeScrolled();
+    void hugeInputIsDrawnInNoTime();
+};
+
+void LedPanelTest::stateTextsStandForQualities_data() {
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<MeasQuality>("quality");
+    QTest::newRow("none") << u"none"_s << Good;
+    QTest::newRow("ok") << u"OK"_s << Good;
+    QTest::newRow("off") << u"off"_s << Good;
+    QTest::newRow("0") << u"0"_s << Good;
+    QTest::newRow("present") << u"present"_s << Bad;
+    QTest::newRow("alarm") << u" Alarm "_s << Bad;
+    QTest::newRow("1") << u"1"_s << Bad;
+    QTest::newRow("was present") << u"was present"_s << Warning;
+    QTest::newRow("history") << u"history"_s << Warning;
+    QTest::newRow("2") << u"2"_s << Warning;
+    QTest::newRow("empty") << QString() << NotMeasured;
+    QTest::newRow("unknown") << u"n/a"_s << NotMeasured;
+    QTest::newRow("64 KiB") << QString(65536, u'1') << NotMeasured;
+}
+
+void LedPanelTest::stateTextsStandForQualities() {
+    QFETCH(QString, state);
+    QTEST(qualityFromState(state), "quality");
+}
+
+void LedPanelTest::lampsDifferInShapeNotOnlyInColour() {
+    QList<QImage> shapes;
+    for (const MeasQuality quality : {NotMeasured, Good, Warning, Bad}) {
+        // One bit a pixel: the colours are gone, the shape is left.
+        QImage outline(20, 20, QImage::Format_Mono);
+        outline.fill(0);
+        const QImage picture = lampPicture(quality);
+        for (int y = 0; y < 20; ++y) {
+            for (int x = 0; x < 20; ++x)
+                outline.setPixel(x, y, picture.pixelColor(x, y) != Qt::black);
+        }
+        QVERIFY(!shapes.contains(outline));
+        shapes.append(outline);
+    }
+}
+
+void LedPanelTest::onlyTheChangedLampIsPaintedAgain() {
+    WatchedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    for (const auto &name : {u"LOS"_s, u"AIS"_s, u"LOF"_s})
+        panel.add(name, Good);
+    panel.invokeRebuild();
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QTRY_VERIFY(!panel.painted.isEmpty());
+    QCoreApplication::processEvents();
+    panel.painted = QRegion();
+
+    States states{{u"AIS"_s, u"present"_s}};
+    panel.update(states);
+    QTRY_VERIFY(!panel.painted.isEmpty());
+    QCOMPARE(panel.painted.boundingRect().height(), 25);
+}
+
+void LedPanelTest::unchangedStatesPaintNothing() {
+    WatchedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    panel.add(u"LOS"_s, Good);
+    panel.invokeRebuild();
+    panel.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&panel));
+    QTRY_VERIFY(!panel.painted.isEmpty());
+    QCoreApplication::processEvents();
+    panel.painted = QRegion();
+    States states{{u"LOS"_s, u"none"_s}, {u"nobody"_s, u"present"_s}};
+    panel.update(states);
+    QCoreApplication::processEvents();
+    QVERIFY(panel.painted.isEmpty());
+}
+
+void LedPanelTest::allLampsOfANameFollow() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    panel.add(u"LOS"_s, Good);
+    panel.add(u"LOS"_s, Good);
+    panel.invokeRebuild();
+    States states{{u"LOS"_s, u"present"_s}};
+    panel.update(states);
+    const QImage picture = panel.grab().toImage();
+    QCOMPARE(picture.pixelColor(13, 6 + 12), lampColor(Bad));
+    QCOMPARE(picture.pixelColor(13, 6 + 25 + 12), lampColor(Bad));
+}
+
+void LedPanelTest::rebuildWaitsUntilItIsAskedFor() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    const QImage empty = panel.grab().toImage();
+    panel.add(u"LOS"_s, Good);
+    panel.invokeRebuild();
+    QVERIFY(panel.grab().toImage() != empty);
+    panel.clear(true);
+    QCOMPARE(panel.grab().toImage(), empty);
+}
+
+void LedPanelTest::pressAndReleaseInsideIsAClick() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    const QSignalSpy clicks(&panel, &LedPanel::clicked);
+    QTest::mouseClick(&panel, Qt::LeftButton);
+    QCOMPARE(clicks.count(), 1);
+}
+
+void LedPanelTest::releaseOutsideIsNone() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    const QSignalSpy clicks(&panel, &LedPanel::clicked);
+    QTest::mousePress(&panel, Qt::LeftButton);
+    QTest::mouseRelease(&panel, Qt::LeftButton, {}, QPoint(400, 10));
+    QCOMPARE(clicks.count(), 0);
+}
+
+void LedPanelTest::keysClickToo() {
+    LedPanel panel(nullptr, false);
+    const QSignalSpy clicks(&panel, &LedPanel::clicked);
+    QTest::keyClick(&panel, Qt::Key_Space);
+    QTest::keyClick(&panel, Qt::Key_Enter);
+    QCOMPARE(clicks.count(), 2);
+}
+
+void LedPanelTest::manyLampsCanBeScrolled() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 200);
+    for (int i = 0; i < 50; ++i)
+        panel.add(u"LED%1"_s.arg(i), i < 25 ? Good : Bad);
+    panel.invokeRebuild();
+    const QPoint lowestLamp(13, 6 + 10 * 16 + 8);
+    QCOMPARE(panel.grab().toImage().pixelColor(lowestLamp), lampColor(Good));
+    QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(40, 190));
+    QTest::mouseMove(&panel, QPoint(40, -2000));
+    QTest::mouseRelease(&panel, Qt::LeftButton, {}, QPoint(40, 190));
+    QCOMPARE(panel.grab().toImage().pixelColor(13, 200 - 6 - 8), lampColor(Bad));
+}
+
+void LedPanelTest::hugeInputIsDrawnInNoTime() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    States states;
+    const QString longName(65536, u'W');
+    for (int i = 0; i < 10'000; ++i) {
+        panel.add(i % 2 ? longName : QString::number(i), Good);
+        states.append({QString::number(i), longName});
+    }
+    panel.invokeRebuild();
+    panel.update(states);
+    QVERIFY(!panel.grab().isNull());
+    panel.resize(1, 1);
+    QVERIFY(!panel.grab().isNull());
+}
+
+QTEST_MAIN(LedPanelTest)
+#include "tst_ledpanel.moc"
