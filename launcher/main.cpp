@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QLocale>
 #include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
@@ -28,6 +29,9 @@ QStringList wordsOf(int argc, char *argv[]) {
 void loadTranslation(QTranslator &translator) {
     const bool loaded = translator.load(u"resources/launcher_ru"_s, u":/main"_s);
     qDebug() << "Loading translator..." << (loaded ? "OK" : "Failed");
+    // Numbers, sizes and dates go with the texts.
+    if (loaded)
+        QLocale::setDefault(QLocale(translator.language()));
 }
 
 void dress() {

@@ -6,6 +6,9 @@
 #include <limits>
 
 QString Amounts::bytes(quint64 count) {
+    // The name of the unit would have to follow the number's grammar.
+    if (count < 1000)
+        return tr("%1 B").arg(count);
     constexpr auto most = static_cast<quint64>(std::numeric_limits<qint64>::max());
     return QLocale().formattedDataSize(static_cast<qint64>(qMin(count, most)), 1, QLocale::DataSizeSIFormat);
 }

@@ -11,7 +11,7 @@ class Amounts {
 public:
     Amounts() = delete;
 
-    /// "1.2 GB"; a kilobyte is 1000 bytes.
+    /// "1.2 GB"; a kilobyte is 1000 bytes. Less than that is "12 B".
     static QString bytes(quint64 count);
     /// "3.4 of 8.0 GB used".
     static QString usedOf(quint64 used, quint64 total);

@@ -23,6 +23,7 @@ void DataHeader::paintSection(QPainter *painter, const QRect &rect, int section)
     const int alignment = model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
     const QString caption = model()->headerData(section, Qt::Horizontal).toString();
     const QRect text = rect.adjusted(LinesDelegate::padding, 0, -LinesDelegate::padding, -1);
+    painter->fillRect(rect, palette().window());
     painter->fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), palette().mid());
     painter->setFont(font());
     painter->setPen(palette().color(QPalette::PlaceholderText));

@@ -37,8 +37,8 @@ DataTable::DataTable(QWidget *parent) : QTableView(parent) {
 
 void DataTable::setColumnWidths(const QList<int> &widths) {
     for (int column = 0; column < widths.size(); ++column) {
-        horizontalHeader()->setSectionResizeMode(column, widths[column] ? QHeaderView::Fixed
-                                                                        : QHeaderView::Stretch);
+        horizontalHeader()->setSectionResizeMode(column,
+                                                 widths[column] ? QHeaderView::Fixed : QHeaderView::Stretch);
         if (widths[column])
             setColumnWidth(column, widths[column]);
     }

@@ -20,9 +20,13 @@ MessageLine::MessageLine(QWidget *parent) : QWidget(parent) {
     hide();
 }
 
-void MessageLine::tellSuccess(const QString &message) { tell(message, true); }
+void MessageLine::tellSuccess(const QString &message) {
+    tell(message, true);
+}
 
-void MessageLine::tellFailure(const QString &message) { tell(message, false); }
+void MessageLine::tellFailure(const QString &message) {
+    tell(message, false);
+}
 
 void MessageLine::clear() {
     shownMessage.clear();

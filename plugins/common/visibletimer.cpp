@@ -12,7 +12,9 @@ VisibleTimer::VisibleTimer(QWidget *widget) : QObject(widget) {
     widget->installEventFilter(this);
 }
 
-void VisibleTimer::setInterval(std::chrono::milliseconds interval) { timer.setInterval(interval); }
+void VisibleTimer::setInterval(std::chrono::milliseconds interval) {
+    timer.setInterval(interval);
+}
 
 bool VisibleTimer::eventFilter(QObject *object, QEvent *event) {
     if (event->type() == QEvent::Show) {

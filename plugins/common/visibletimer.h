@@ -18,6 +18,7 @@ public:
     explicit VisibleTimer(QWidget *widget);
 
     void setInterval(std::chrono::milliseconds interval);
+    std::chrono::milliseconds interval() const { return timer.intervalAsDuration(); }
     bool isRunning() const { return timer.isActive(); }
 
     bool eventFilter(QObject *object, QEvent *event) override;

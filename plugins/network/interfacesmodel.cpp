@@ -80,7 +80,9 @@ int InterfacesModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(rows.size());
 }
 
-int InterfacesModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
+int InterfacesModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
 
 QString InterfacesModel::strongLine(const MeasuredInterface &measured, int column) {
     switch (column) {

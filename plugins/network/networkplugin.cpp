@@ -14,11 +14,15 @@ namespace {
 
 constexpr int iconRows = 2;
 
-QString netDirectory() { return hostSource(u"/sys/class/net"_s); }
+QString netDirectory() {
+    return hostSource(u"/sys/class/net"_s);
+}
 
 } // namespace
 
-NetworkPlugin::NetworkPlugin() { setTitle(tr("Network")); }
+NetworkPlugin::NetworkPlugin() {
+    setTitle(tr("Network"));
+}
 
 QWidget *NetworkPlugin::createWindow() {
     return new NetworkWindow(std::make_unique<NetworkReader>(netDirectory()));

@@ -3,7 +3,9 @@
 
 #include "interfaceaddresses.h"
 
-NetworkReader::NetworkReader(const QString &directory) : netDirectory(directory) { clock.start(); }
+NetworkReader::NetworkReader(const QString &directory) : netDirectory(directory) {
+    clock.start();
+}
 
 QList<MeasuredInterface> NetworkReader::read() {
     QList<NetworkInterface> interfaces = interfacesIn(netDirectory);

@@ -15,8 +15,7 @@ NetworkStatus::NetworkStatus(const QString &directory, QWidget *parent)
 
 void NetworkStatus::refresh() {
     const QColor ink = palette().color(QPalette::WindowText);
-    const std::optional<QString> address =
-        NetworkTexts::primaryAddress(NetworkReader(netDirectory).read());
+    const std::optional<QString> address = NetworkTexts::primaryAddress(NetworkReader(netDirectory).read());
     setCell(0, 0, Qt::AlignLeft, tr("Network:"), ink, 0, false);
     setCell(1, 0, Qt::AlignRight, address.value_or(tr("No address")), ink, 0, false);
 }

@@ -5,6 +5,20 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+/// An address without a run of zeros in it does not fit beside the other columns.
+QStringList linesOfAddress(const QString &address) {
+    constexpr qsizetype longestLine = 30;
+    constexpr qsizetype groupsInLine = 4;
+    if (address.size() <= longestLine)
+        return {address};
+    const QStringList groups = address.split(u':');
+    return {groups.first(groupsInLine).join(u':') + u':', groups.sliced(groupsInLine).join(u':')};
+}
+
+} // namespace
+
 QString NetworkTexts::stateText(LinkState state) {
     switch (state) {
     case LinkState::Up:
@@ -34,11 +48,17 @@ QString NetworkTexts::rateText(const std::optional<quint64> &bitsPerSecond) {
 }
 
 QStringList NetworkTexts::addressLines(const QStringList &addresses) {
-    constexpr qsizetype mostLines = 8;
-    if (addresses.size() <= mostLines)
-        return addresses.isEmpty() ? QStringList(tr("No address")) : addresses;
-    const qsizetype shown = mostLines - 1;
-    return addresses.first(shown) << tr("and %1 more").arg(addresses.size() - shown);
+    constexpr qsizetype mostAddresses = 8;
+    if (addresses.isEmpty())
+        return {tr("No address")};
+    const bool areTooMany = addresses.size() > mostAddresses;
+    const qsizetype shown = areTooMany ? mostAddresses - 1 : addresses.size();
+    QStringList lines;
+    for (const QString &address : addresses.first(shown))
+        lines.append(linesOfAddress(address));
+    if (areTooMany)
+        lines.append(tr("and %1 more").arg(addresses.size() - shown));
+    return lines;
 }
 
 std::optional<QString> NetworkTexts::primaryAddress(const QList<MeasuredInterface> &interfaces) {

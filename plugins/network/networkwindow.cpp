@@ -9,11 +9,14 @@
 #include <QVBoxLayout>
 
 NetworkWindow::NetworkWindow(std::unique_ptr<NetworkReader> reader, QWidget *parent)
-    : PluginWindow(parent), networkReader(std::move(reader)), model(new InterfacesModel(this)),
-      table(new DataTable(this)), refreshTimer(new VisibleTimer(this)) {
+    : PluginWindow(parent),
+      networkReader(std::move(reader)),
+      model(new InterfacesModel(this)),
+      table(new DataTable(this)),
+      refreshTimer(new VisibleTimer(this)) {
     setWindowTitle(tr("Network"));
     table->setModel(model);
-    table->setColumnWidths({184, 0, 116, 116});
+    table->setColumnWidths({180, 0, 112, 112});
     table->setRowsSelectable(false);
     table->setRowsMeasured(true);
     auto *const layout = new QVBoxLayout(this);
@@ -24,4 +27,6 @@ NetworkWindow::NetworkWindow(std::unique_ptr<NetworkReader> reader, QWidget *par
 
 NetworkWindow::~NetworkWindow() = default;
 
-void NetworkWindow::refresh() { model->show(networkReader->read()); }
+void NetworkWindow::refresh() {
+    model->show(networkReader->read());
+}

@@ -3,6 +3,10 @@
 
 #include "refreshwindow.h"
 
-RefreshPlugin::RefreshPlugin() { setTitle(tr("Refresh rate")); }
+RefreshPlugin::RefreshPlugin() {
+    setTitle(tr("Refresh rate"));
+}
 
-QWidget *RefreshPlugin::createWindow() { return new RefreshWindow; }
+QWidget *RefreshPlugin::createWindow() {
+    return new RefreshWindow;
+}

@@ -53,4 +53,6 @@ void RefreshWindow::showEvent(QShowEvent *event) {
     choiceGroup->button(static_cast<int>(RefreshRate::configured().count()))->setChecked(true);
 }
 
-void RefreshWindow::store(int seconds) { RefreshRate::store(std::chrono::seconds(seconds)); }
+void RefreshWindow::store(int seconds) {
+    RefreshRate::store(std::chrono::seconds(seconds));
+}

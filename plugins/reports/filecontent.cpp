@@ -46,9 +46,8 @@ void FileContent::readPicture(QFile &file, const QByteArray &format) {
     if (!size.isValid()) {
         fileNote = tr("This picture is damaged.");
     } else if (qint64(size.width()) * size.height() > mostPixels) {
-        fileNote = tr("This picture is too large to be shown: %1 x %2 points.")
-                       .arg(size.width())
-                       .arg(size.height());
+        fileNote =
+            tr("This picture is too large to be shown: %1 x %2 points.").arg(size.width()).arg(size.height());
     } else {
         if (size.width() > largestShown.width() || size.height() > largestShown.height())
             reader.setScaledSize(size.scaled(largestShown, Qt::KeepAspectRatio).expandedTo({1, 1}));

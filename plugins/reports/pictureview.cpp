@@ -9,7 +9,9 @@ void PictureView::setPicture(const QImage &picture) {
     update();
 }
 
-void PictureView::resizeEvent(QResizeEvent *) { fit(); }
+void PictureView::resizeEvent(QResizeEvent *) {
+    fit();
+}
 
 void PictureView::fit() {
     const QSize room = size() * devicePixelRatioF();

@@ -14,6 +14,7 @@ namespace {
 
 constexpr QSize buttonSize(150, 52);
 constexpr int boxWidth = 560;
+constexpr int boxMargin = 24;
 constexpr qreal radius = 10;
 constexpr int dimming = 128;
 
@@ -26,24 +27,33 @@ QPushButton *makeButton(const QString &text) {
     return button;
 }
 
+QLabel *makeLabel() {
+    auto *const label = new QLabel;
+    label->setFont(FontSizes::sized(label->font(), FontSizes::Large, QFont::Bold));
+    label->setAlignment(Qt::AlignCenter);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
 } // namespace
 
 QuestionPanel::QuestionPanel(QWidget *parent)
-    : QWidget(parent), box(new QWidget(this)), questionLabel(new QLabel), yesButton(makeButton(tr("Yes"))),
+    : QWidget(parent),
+      box(new QWidget(this)),
+      questionLabel(makeLabel()),
+      subjectLabel(makeLabel()),
+      yesButton(makeButton(tr("Yes"))),
       noButton(makeButton(tr("No"))) {
-    questionLabel->setFont(FontSizes::sized(font(), FontSizes::Large, QFont::Bold));
-    questionLabel->setAlignment(Qt::AlignCenter);
-    questionLabel->setWordWrap(true);
-    questionLabel->setTextFormat(Qt::PlainText);
-
     auto *const buttons = new QHBoxLayout;
     buttons->addWidget(yesButton);
     buttons->addStretch();
     buttons->addWidget(noButton);
     auto *const boxLayout = new QVBoxLayout(box);
-    boxLayout->setContentsMargins(24, 24, 24, 20);
-    boxLayout->setSpacing(24);
+    boxLayout->setContentsMargins(boxMargin, boxMargin, boxMargin, boxMargin);
+    boxLayout->setSpacing(12);
     boxLayout->addWidget(questionLabel);
+    boxLayout->addWidget(subjectLabel);
+    boxLayout->addSpacing(12);
     boxLayout->addLayout(buttons);
     box->setFixedWidth(boxWidth);
     auto *const layout = new QVBoxLayout(this);
@@ -55,8 +65,10 @@ QuestionPanel::QuestionPanel(QWidget *parent)
     hide();
 }
 
-void QuestionPanel::ask(const QString &question) {
+void QuestionPanel::ask(const QString &question, const QString &subject) {
     questionLabel->setText(question);
+    subjectLabel->setText(
+        subjectLabel->fontMetrics().elidedText(subject, Qt::ElideMiddle, boxWidth - 2 * boxMargin));
     setGeometry(parentWidget()->rect());
     show();
     raise();

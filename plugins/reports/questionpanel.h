@@ -14,7 +14,8 @@ class QuestionPanel : public QWidget {
 public:
     explicit QuestionPanel(QWidget *parent);
 
-    void ask(const QString &question);
+    /// `subject`, what the question is about, stands in one line of its own and is elided where it is long.
+    void ask(const QString &question, const QString &subject);
 
 signals:
     void accepted();
@@ -36,6 +37,7 @@ private:
 
     QWidget *box;
     QLabel *questionLabel;
+    QLabel *subjectLabel;
     QPushButton *yesButton;
     QPushButton *noButton;
 };

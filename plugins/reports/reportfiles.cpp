@@ -19,7 +19,9 @@ Directory openDirectory(const QString &directory) {
     return {::opendir(QFile::encodeName(directory).constData()), ::closedir};
 }
 
-QString systemError(int number) { return QString::fromStdString(std::generic_category().message(number)); }
+QString systemError(int number) {
+    return QString::fromStdString(std::generic_category().message(number));
+}
 
 std::optional<ReportFile> fileAt(int directory, const char *name) {
     struct stat entry {};

@@ -31,8 +31,13 @@ QPushButton *makeButton(const QString &text) {
 } // namespace
 
 ReportListPage::ReportListPage(QWidget *parent)
-    : QWidget(parent), model(new ReportsModel(this)), table(new DataTable), emptyLabel(new QLabel),
-      summaryLabel(new QLabel), openButton(makeButton(tr("Open"))), deleteButton(makeButton(tr("Delete"))),
+    : QWidget(parent),
+      model(new ReportsModel(this)),
+      table(new DataTable),
+      emptyLabel(new QLabel),
+      summaryLabel(new QLabel),
+      openButton(makeButton(tr("Open"))),
+      deleteButton(makeButton(tr("Delete"))),
       listing(new QStackedLayout) {
     table->setModel(model);
     table->setColumnWidths({0, 124, 216});
@@ -86,7 +91,9 @@ QByteArray ReportListPage::chosenFile() const {
     return rows.isEmpty() ? QByteArray() : model->nameAt(rows.first().row());
 }
 
-void ReportListPage::focusList() { table->setFocus(); }
+void ReportListPage::focusList() {
+    table->setFocus();
+}
 
 void ReportListPage::choose(int row) {
     if (row >= 0)

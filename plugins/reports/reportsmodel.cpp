@@ -14,7 +14,9 @@ void ReportsModel::show(const QList<ReportFile> &files) {
     endResetModel();
 }
 
-QByteArray ReportsModel::nameAt(int row) const { return shownFiles.value(row).name; }
+QByteArray ReportsModel::nameAt(int row) const {
+    return shownFiles.value(row).name;
+}
 
 int ReportsModel::rowOf(const QByteArray &name) const {
     const auto file = std::find_if(shownFiles.cbegin(), shownFiles.cend(),
@@ -26,7 +28,9 @@ int ReportsModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(shownFiles.size());
 }
 
-int ReportsModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
+int ReportsModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
 
 QVariant ReportsModel::data(const QModelIndex &index, int role) const {
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))

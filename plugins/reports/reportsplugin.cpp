@@ -9,17 +9,20 @@ using namespace Qt::Literals::StringLiterals;
 
 QWidget *ReportsPlugin::iconWidget() {
     if (!icon) {
-        auto *const tile =
-            ownedWidgets.add(new IconTile(QIcon(u":/reports/reports.png"_s), tr("Reports")));
+        auto *const tile = ownedWidgets.add(new IconTile(QIcon(u":/reports/reports.png"_s), tr("Reports")));
         connect(tile, &IconTile::clicked, this, &ReportsPlugin::showWindow);
         icon = tile;
     }
     return icon;
 }
 
-QWidget *ReportsPlugin::pluginWindow() { return window; }
+QWidget *ReportsPlugin::pluginWindow() {
+    return window;
+}
 
-QWidget *ReportsPlugin::statusWidget() { return nullptr; }
+QWidget *ReportsPlugin::statusWidget() {
+    return nullptr;
+}
 
 void ReportsPlugin::showWindow() {
     if (!window)

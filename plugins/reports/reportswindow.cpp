@@ -12,14 +12,19 @@
 #include <reportsdirectory.h>
 #include <volume.h>
 
+#include <QDir>
 #include <QKeyEvent>
 #include <QStackedLayout>
 
 using namespace Qt::Literals::StringLiterals;
 
 ReportsWindow::ReportsWindow(QWidget *parent)
-    : PluginWindow(parent), levels(new QStackedLayout), listPage(new ReportListPage),
-      viewPage(new ReportViewPage), messageLine(new MessageLine(this)), question(new QuestionPanel(this)),
+    : PluginWindow(parent),
+      levels(new QStackedLayout),
+      listPage(new ReportListPage),
+      viewPage(new ReportViewPage),
+      messageLine(new MessageLine(this)),
+      question(new QuestionPanel(this)),
       folderWatch(new FolderWatch(this)) {
     levels->addWidget(listPage);
     levels->addWidget(viewPage);
@@ -75,7 +80,9 @@ void ReportsWindow::keyPressEvent(QKeyEvent *event) {
 }
 
 void ReportsWindow::reload() {
-    const std::optional<Volume> volume = volumeOf(directory);
+    // A directory that is still to be made will lie where the home directory does.
+    const std::optional<Volume> volume =
+        volumeOf(QFileInfo::exists(directory) ? directory : QDir::homePath());
     listPage->show(reportsIn(directory), volume ? Amounts::bytes(volume->available) : QString());
 }
 
@@ -96,7 +103,7 @@ void ReportsWindow::askToDelete() {
     if (askedFile.isEmpty())
         return;
     messageLine->clear();
-    question->ask(tr("Delete this file?\n\n%1").arg(shownName(askedFile)));
+    question->ask(tr("Delete this file?"), shownName(askedFile));
 }
 
 void ReportsWindow::deleteAsked() {
@@ -113,4 +120,6 @@ void ReportsWindow::showList() {
     announceLevel();
 }
 
-bool ReportsWindow::isListShown() const { return levels->currentWidget() == listPage; }
+bool ReportsWindow::isListShown() const {
+    return levels->currentWidget() == listPage;
+}

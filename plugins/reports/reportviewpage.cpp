@@ -27,7 +27,10 @@ QFont reportFont() {
 } // namespace
 
 ReportViewPage::ReportViewPage(QWidget *parent)
-    : QWidget(parent), textView(new QPlainTextEdit), pictureView(new PictureView), noteLabel(new QLabel),
+    : QWidget(parent),
+      textView(new QPlainTextEdit),
+      pictureView(new PictureView),
+      noteLabel(new QLabel),
       views(new QStackedLayout) {
     textView->setFrameShape(QFrame::NoFrame);
     textView->setReadOnly(true);
@@ -61,4 +64,6 @@ void ReportViewPage::show(const FileContent &content) {
     views->setCurrentWidget(content.isPicture() ? static_cast<QWidget *>(pictureView) : textView);
 }
 
-void ReportViewPage::clear() { show(FileContent()); }
+void ReportViewPage::clear() {
+    show(FileContent());
+}

@@ -13,7 +13,7 @@ std::optional<CpuTimes> cpuTimesIn(QByteArrayView stat) {
     constexpr qsizetype longestLine = 512;
 
     const QByteArray line = stat.first(qMin(stat.size(), longestLine)).toByteArray();
-    const QList<QByteArray> words = line.left(line.indexOf('\n')).simplified().split(' ');
+    const QList<QByteArray> words = line.split('\n').first().simplified().split(' ');
     if (words.first() != "cpu" || words.size() <= idle)
         return std::nullopt;
     CpuTimes times;

@@ -15,10 +15,10 @@ constexpr int leastHeight = 36;
 constexpr int usualHeight = 44;
 constexpr int touchHeight = 52;
 constexpr int padding = 12;
-constexpr int captionWidth = 160;
+constexpr int captionWidth = 176;
 constexpr int arrowWidth = 28;
 constexpr int percentWidth = 64;
-constexpr int barWidth = 120;
+constexpr int barWidth = 104;
 constexpr int barHeight = 8;
 
 } // namespace
@@ -41,7 +41,9 @@ void FactRow::show(const Fact &fact) {
     update();
 }
 
-QSize FactRow::sizeHint() const { return {400, rowKind == LeadsOn ? touchHeight : usualHeight}; }
+QSize FactRow::sizeHint() const {
+    return {400, rowKind == LeadsOn ? touchHeight : usualHeight};
+}
 
 void FactRow::keyPressEvent(QKeyEvent *event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)

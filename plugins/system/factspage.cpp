@@ -9,9 +9,9 @@ FactsPage::FactsPage(QWidget *parent) : QWidget(parent) {
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 8, 16, 8);
     layout->setSpacing(0);
-    for (const auto kind : {SystemFacts::Launcher, SystemFacts::Kernel, SystemFacts::Host,
-                            SystemFacts::Processor, SystemFacts::Memory, SystemFacts::RootStorage,
-                            SystemFacts::HomeStorage, SystemFacts::Uptime}) {
+    for (const auto kind :
+         {SystemFacts::Launcher, SystemFacts::Kernel, SystemFacts::Host, SystemFacts::Processor,
+          SystemFacts::Memory, SystemFacts::RootStorage, SystemFacts::HomeStorage, SystemFacts::Uptime}) {
         const bool leadsOn = kind == SystemFacts::RootStorage || kind == SystemFacts::HomeStorage;
         auto *const row = new FactRow(leadsOn ? FactRow::LeadsOn : FactRow::Plain, this);
         if (leadsOn)

@@ -12,7 +12,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 /// A link that leads nowhere takes its name as well.
-bool isTaken(const QFileInfo &file) { return file.exists() || file.isSymLink(); }
+bool isTaken(const QFileInfo &file) {
+    return file.exists() || file.isSymLink();
+}
 
 QString freeName(const QDir &directory, const QString &stem) {
     QString name = stem + ".txt"_L1;

@@ -21,7 +21,9 @@ int StorageModel::rowCount(const QModelIndex &parent) const {
     return parent.isValid() ? 0 : static_cast<int>(shownVolumes.size());
 }
 
-int StorageModel::columnCount(const QModelIndex &parent) const { return parent.isValid() ? 0 : ColumnCount; }
+int StorageModel::columnCount(const QModelIndex &parent) const {
+    return parent.isValid() ? 0 : ColumnCount;
+}
 
 QString StorageModel::text(const MountedVolume &mounted, int column) const {
     const Volume &volume = mounted.volume;

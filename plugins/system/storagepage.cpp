@@ -19,4 +19,6 @@ StoragePage::StoragePage(QWidget *parent)
     setFocusProxy(table);
 }
 
-void StoragePage::show(const QList<MountedVolume> &volumes) { model->show(volumes); }
+void StoragePage::show(const QList<MountedVolume> &volumes) {
+    model->show(volumes);
+}

@@ -37,7 +37,9 @@ QString SystemFacts::timeText(std::chrono::seconds time) {
     return days > 0 ? tr("%1 d %2").arg(days).arg(text) : text;
 }
 
-QString SystemFacts::known(const QString &text) { return text.isEmpty() ? tr("Unknown") : text; }
+QString SystemFacts::known(const QString &text) {
+    return text.isEmpty() ? tr("Unknown") : text;
+}
 
 Fact SystemFacts::memoryFact(const std::optional<MemoryUse> &memory) {
     if (!memory)

@@ -14,9 +14,13 @@ using namespace Qt::Literals::StringLiterals;
 SystemKeeper::SystemKeeper(std::shared_ptr<SystemReader> reader, QObject *parent)
     : AbstractKeeper(parent), systemReader(std::move(reader)) {}
 
-bool SystemKeeper::canBeLoaded() { return false; }
+bool SystemKeeper::canBeLoaded() {
+    return false;
+}
 
-bool SystemKeeper::canBeSaved() { return true; }
+bool SystemKeeper::canBeSaved() {
+    return true;
+}
 
 void SystemKeeper::save() {
     const QDateTime now = QDateTime::currentDateTime();

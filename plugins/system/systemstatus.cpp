@@ -12,8 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 SystemStatus::SystemStatus(std::shared_ptr<SystemReader> reader, QWidget *parent)
     : StatusLabel(parent), systemReader(std::move(reader)) {
     auto *const timer = new VisibleTimer(this);
-    connect(timer, &VisibleTimer::appeared, this,
-            [timer] { timer->setInterval(RefreshRate::configured()); });
+    connect(timer, &VisibleTimer::appeared, this, [timer] { timer->setInterval(RefreshRate::configured()); });
     connect(timer, &VisibleTimer::beat, this, &SystemStatus::refresh);
     // The panel is measured before it appears.
     refresh();

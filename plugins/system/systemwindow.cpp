@@ -14,8 +14,12 @@
 using namespace Qt::Literals::StringLiterals;
 
 SystemWindow::SystemWindow(std::shared_ptr<SystemReader> reader, QWidget *parent)
-    : PluginWindow(parent), systemReader(std::move(reader)), levels(new QStackedLayout), factsPage(new FactsPage),
-      storagePage(new StoragePage), messageLine(new MessageLine(this)),
+    : PluginWindow(parent),
+      systemReader(std::move(reader)),
+      levels(new QStackedLayout),
+      factsPage(new FactsPage),
+      storagePage(new StoragePage),
+      messageLine(new MessageLine(this)),
       refreshTimer(new VisibleTimer(this)) {
     levels->addWidget(factsPage);
     levels->addWidget(storagePage);
@@ -44,16 +48,22 @@ void SystemWindow::announceLevel() {
     emit setTitle(windowTitle());
 }
 
-void SystemWindow::tellSuccess(const QString &message) { messageLine->tellSuccess(message); }
+void SystemWindow::tellSuccess(const QString &message) {
+    messageLine->tellSuccess(message);
+}
 
-void SystemWindow::tellFailure(const QString &message) { messageLine->tellFailure(message); }
+void SystemWindow::tellFailure(const QString &message) {
+    messageLine->tellFailure(message);
+}
 
 void SystemWindow::hideEvent(QHideEvent *event) {
     messageLine->clear();
     PluginWindow::hideEvent(event);
 }
 
-void SystemWindow::applyRefreshRate() { refreshTimer->setInterval(RefreshRate::configured()); }
+void SystemWindow::applyRefreshRate() {
+    refreshTimer->setInterval(RefreshRate::configured());
+}
 
 void SystemWindow::refresh() {
     if (levels->currentWidget() == factsPage)

@@ -6,6 +6,7 @@
 #include <checkbutton.h>
 #include <icontile.h>
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QLabel>
 #include <QMouseEvent>
@@ -35,10 +36,12 @@ QWidget *header() {
     return nullptr;
 }
 
-void sendMouse(QWidget *widget, QEvent::Type type, Qt::MouseButtons held) {
-    const QPointF middle = QRectF(widget->rect()).center();
-    QMouseEvent event(type, middle, widget->mapToGlobal(middle), Qt::LeftButton, held, Qt::NoModifier);
-    QApplication::sendEvent(widget, &event);
+void pressAt(QWidget *widget, QPointF position) {
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+        QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
 }
 
 } // namespace
@@ -89,9 +92,18 @@ bool Probe::press(const QString &nameOrText) const {
     QWidget *const widget = named(nameOrText);
     if (!widget)
         return false;
-    sendMouse(widget, QEvent::MouseButtonPress, Qt::LeftButton);
-    sendMouse(widget, QEvent::MouseButtonRelease, Qt::NoButton);
+    pressAt(widget, QRectF(widget->rect()).center());
     return true;
+}
+
+bool Probe::pressRow(int row) const {
+    for (const QAbstractItemView *const view : LauncherWindow::instance()->findChildren<QAbstractItemView *>()) {
+        if (view->isVisible() && view->model() && row < view->model()->rowCount()) {
+            pressAt(view->viewport(), view->visualRect(view->model()->index(row, 0)).center());
+            return true;
+        }
+    }
+    return false;
 }
 
 void Probe::goHome() const {

@@ -23,6 +23,8 @@ public slots:
     bool isVisible(const QString &name) const;
     /// Presses and lets go in the middle of the visible widget of that object name or that text.
     bool press(const QString &nameOrText) const;
+    /// Presses a row of the visible list or table.
+    bool pressRow(int row) const;
     void goHome() const;
     /// Writes a picture of the window with its open pop-up.
     bool grab(const QString &file) const;

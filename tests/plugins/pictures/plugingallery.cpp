@@ -97,8 +97,10 @@ void drawTrace(const QString &name) {
 
 void fillReports() {
     QDir().mkpath(reportsDirectory());
-    writeFile(u"alarms-20261120-101500.txt"_s, "Alarm          State          Since\nLOF            present        14:31:07\n");
-    writeFile(u"raw-samples-of-the-long-measurement-on-the-northern-line.bin"_s, QByteArray("\0\1\2\3samples", 11).repeated(2000));
+    writeFile(u"alarms-20261120-101500.txt"_s,
+              "Alarm          State          Since\nLOF            present        14:31:07\n");
+    writeFile(u"raw-samples-of-the-long-measurement-on-the-northern-line.bin"_s,
+              QByteArray("\0\1\2\3samples", 11).repeated(2000));
     writeFile(u"two\nlines.txt"_s, "one\n");
     for (int number = 1; number <= 6; ++number)
         writeFile(u"jitter-2026112%1-093000.txt"_s.arg(number), QByteArray(400 * number, 'j'));

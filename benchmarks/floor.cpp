@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The floor of every comparison: the launcher's widget tree in plain Qt, with nothing behind it.
+//
+//   floor NUMBER_OF_ICONS
+#include "firstframe.h"
+
+#include <QApplication>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStackedWidget>
+
+namespace {
+
+constexpr int iconsPerPage = 10;
+constexpr int columns = 2;
+
+QWidget *makePage(int icons) {
+    auto *const page = new QWidget;
+    auto *const grid = new QGridLayout(page);
+    for (int cell = 0; cell < iconsPerPage; ++cell) {
+        QWidget *const content = cell < icons ? new QPushButton(QStringLiteral("Measurement")) : new QWidget;
+        grid->addWidget(content, cell / columns, cell % columns);
+    }
+    return page;
+}
+
+QLayout *makeHeader() {
+    auto *const header = new QHBoxLayout;
+    header->addWidget(new QPushButton(QStringLiteral("Back")));
+    header->addWidget(new QLabel(QStringLiteral("Caption")), 1);
+    header->addWidget(new QPushButton(QStringLiteral("12:00")));
+    return header;
+}
+
+QLayout *makeLeftColumn() {
+    auto *const column = new QVBoxLayout;
+    column->addWidget(new QWidget, 1);
+    for (int label = 0; label < 3; ++label)
+        column->addWidget(new QLabel(QStringLiteral("i")));
+    return column;
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    const QApplication application(argc, argv);
+    const FirstFrame firstFrame;
+    int icons = argc > 1 ? QByteArray(argv[1]).toInt() : 1;
+
+    QWidget window;
+    auto *const layout = new QVBoxLayout(&window);
+    layout->addLayout(makeHeader());
+    auto *const row = new QHBoxLayout;
+    layout->addLayout(row, 1);
+    row->addLayout(makeLeftColumn());
+    auto *const content = new QVBoxLayout;
+    row->addLayout(content, 1);
+    auto *const pages = new QStackedWidget;
+    content->addWidget(pages, 1);
+    auto *const selectors = new QHBoxLayout;
+    content->addLayout(selectors);
+    for (; icons > 0; icons -= iconsPerPage) {
+        pages->addWidget(makePage(icons));
+        selectors->addWidget(new QPushButton(QStringLiteral("Page")));
+    }
+    window.resize(800, 600);
+    window.show();
+    return QApplication::exec();
+}
