@@ -403,7 +403,7 @@ Tools</source>
     <name>SystemStatus</name>
     <message>
         <source>Load</source>
-        <translation>Загрузить</translation>
+        <translation>Загрузка</translation>
     </message>
     <message>
         <source>Unknown</source>

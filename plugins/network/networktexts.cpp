@@ -36,7 +36,7 @@ QString NetworkTexts::stateText(LinkState state) {
 }
 
 QString NetworkTexts::linkText(const NetworkInterface &interface) {
-    const QString state = stateText(interface.state);
+    QString state = stateText(interface.state);
     if (interface.state != LinkState::Up || !interface.speedMbits)
         return state;
     constexpr quint64 mega = 1'000'000;

@@ -13,7 +13,7 @@ QHash<QByteArray, quint64> amountsIn(QByteArrayView meminfo) {
         const qsizetype colon = line.indexOf(':');
         const QByteArray amount = line.mid(colon + 1).trimmed();
         bool isNumber = false;
-        const quint64 kilobytes = amount.chopped(3 * amount.endsWith(" kB")).toULongLong(&isNumber);
+        const quint64 kilobytes = amount.split(' ').first().toULongLong(&isNumber);
         if (colon > 0 && isNumber)
             amounts.insert(line.left(colon), kilobytes * 1024);
     }

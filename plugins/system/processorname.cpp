@@ -26,7 +26,7 @@ QString processorNameIn(QByteArrayView cpuinfo) {
     }
     // x86 and 32-bit ARM, older ARM, MIPS, PowerPC, ARM boards.
     for (const char *const key : {"model name", "Processor", "cpu model", "cpu", "Hardware"}) {
-        if (const QString name = tidied(values.value(key)); !name.isEmpty())
+        if (QString name = tidied(values.value(key)); !name.isEmpty())
             return name;
     }
     return {};

@@ -14,7 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qint64 mostBytes = 256 * 1024;
+constexpr qint64 mostBytes = 1 << 18;
 // A tenth of a second on one processor. Over less the load would jump between 0 and 100.
 constexpr quint64 fewestTicks = 10;
 
@@ -38,7 +38,7 @@ QByteArray SystemReader::procFile(const QString &name) const {
 }
 
 QString SystemReader::processorName() const {
-    const QString name = processorNameIn(procFile(u"cpuinfo"_s));
+    QString name = processorNameIn(procFile(u"cpuinfo"_s));
     if (!name.isEmpty())
         return name;
     // The text ends in a null byte.
