@@ -129,20 +129,8 @@ GenericPlugin *PluginsCollection::initPlugin2(const QString &file, int row, int 
                   << " : loading of plugin " << qPrintable(file) << " failed" << std::endl;
         return nullptr;
     }
-    QWidget *icon = nullptr;
-    const std::optional<QString> failure = failureOf([&] {
-        icon = plugin->iconWidget();
-        placeIcon(icon, file, row, col);
-        // Also without an icon: a settings plug-in shows its window only when it is asked to.
-        launcher->connectWithPlugin(plugin);
-        placeStatusWidget(plugin->statusWidget());
-    });
-    if (failure) {
-        removeFromLauncher(icon, nullptr, nullptr);
-        dropLastLoader(file, *failure);
-        return nullptr;
-    }
-    return plugin;
+    // Without an icon too: a settings plug-in shows its window only when it is asked to.
+    return place(plugin, file, row, col, IconIsOptional) ? plugin : nullptr;
 }
 
 LauncherPlugin *PluginsCollection::initPlugin(const QString &file, int row, int col) {
@@ -151,21 +139,25 @@ LauncherPlugin *PluginsCollection::initPlugin(const QString &file, int row, int 
     auto *const plugin = load<LauncherPlugin>(file);
     if (!plugin)
         return nullptr;
+    return place(plugin, file, row, col, IconIsRequired) ? plugin : nullptr;
+}
+
+template <typename T>
+bool PluginsCollection::place(T *plugin, const QString &file, int row, int col, IconNeed need) {
     QWidget *icon = nullptr;
     const std::optional<QString> failure = failureOf([&] {
         icon = plugin->iconWidget();
-        if (!icon)
+        if (!icon && need == IconIsRequired)
             return;
         placeIcon(icon, file, row, col);
         launcher->connectWithPlugin(plugin);
         placeStatusWidget(plugin->statusWidget());
     });
-    if (failure) {
-        removeFromLauncher(icon, nullptr, nullptr);
-        dropLastLoader(file, *failure);
-        return nullptr;
-    }
-    return icon ? plugin : nullptr;
+    if (!failure)
+        return icon || need == IconIsOptional;
+    removeFromLauncher(icon, nullptr, nullptr);
+    dropLastLoader(file, *failure);
+    return false;
 }
 
 template <typename T>

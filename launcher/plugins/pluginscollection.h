@@ -62,8 +62,12 @@ private:
         QMap<GenericPlugin *, QString> settingsText;
     };
 
+    enum IconNeed { IconIsOptional, IconIsRequired };
+
     template <typename T>
     T *load(const QString &file);
+    template <typename T>
+    bool place(T *plugin, const QString &file, int row, int col, IconNeed need);
     void loadGroup(QSettings &store, const QString &group, const QString &prefix, Loaded &loaded);
     void resolveSettings(const Loaded &loaded);
     void placeIcon(QWidget *icon, const QString &file, int row, int col);

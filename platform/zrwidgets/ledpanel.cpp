@@ -3,6 +3,7 @@
 
 #include "fontsizes.h"
 #include "lamp.h"
+#include "presskeys.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -173,20 +174,12 @@ void LedPanel::wheelEvent(QWheelEvent *event) {
 }
 
 void LedPanel::keyPressEvent(QKeyEvent *event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Select:
+    if (isPressKey(event->key()))
         emit clicked();
-        break;
-    case Qt::Key_Up:
+    else if (event->key() == Qt::Key_Up)
         scrollTo(scrollOffset - rowHeight());
-        break;
-    case Qt::Key_Down:
+    else if (event->key() == Qt::Key_Down)
         scrollTo(scrollOffset + rowHeight());
-        break;
-    default:
+    else
         QWidget::keyPressEvent(event);
-    }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pressinglabel.h"
 
+#include "presskeys.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -72,14 +74,8 @@ void PressingLabel::mouseReleaseEvent(QMouseEvent *event) {
 }
 
 void PressingLabel::keyPressEvent(QKeyEvent *event) {
-    switch (event->key()) {
-    case Qt::Key_Space:
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-    case Qt::Key_Select:
+    if (isPressKey(event->key()))
         emit clicked();
-        break;
-    default:
+    else
         QLabel::keyPressEvent(event);
-    }
 }

@@ -39,7 +39,8 @@ QWidget *header() {
 void pressAt(QWidget *widget, QPointF position) {
     for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
         const Qt::MouseButtons held = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-        QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::LeftButton, held, Qt::NoModifier);
+        QMouseEvent event(type, position, widget->mapToGlobal(position), Qt::LeftButton, held,
+                          Qt::NoModifier);
         QApplication::sendEvent(widget, &event);
     }
 }
@@ -97,7 +98,8 @@ bool Probe::press(const QString &nameOrText) const {
 }
 
 bool Probe::pressRow(int row) const {
-    for (const QAbstractItemView *const view : LauncherWindow::instance()->findChildren<QAbstractItemView *>()) {
+    for (const QAbstractItemView *const view :
+         LauncherWindow::instance()->findChildren<QAbstractItemView *>()) {
         if (view->isVisible() && view->model() && row < view->model()->rowCount()) {
             pressAt(view->viewport(), view->visualRect(view->model()->index(row, 0)).center());
             return true;
