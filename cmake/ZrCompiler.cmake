@@ -9,7 +9,8 @@ set(CMAKE_AUTOMOC ON)
 
 add_library(zr_warnings INTERFACE)
 target_compile_options(zr_warnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wshadow=local -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Wall -Wextra -Wpedantic -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
     $<$<BOOL:${ZR_WARNINGS_AS_ERRORS}>:-Werror>)
 target_compile_definitions(zr_warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS)
 

@@ -10,6 +10,7 @@
 
 #include <QApplication>
 #include <QDebug>
+#include <QFont>
 #include <QLocale>
 #include <QTranslator>
 
@@ -35,6 +36,7 @@ void loadTranslation(QTranslator &translator) {
 }
 
 void dress() {
+    QApplication::setFont(QFont(u"Liberation Sans"_s));
     QApplication::setPalette(PaletteFactory::getPalette(u"GenericWindow"_s));
     QApplication::setStyle(new StyleOverride(QApplication::style()));
 }

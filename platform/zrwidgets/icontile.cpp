@@ -2,7 +2,9 @@
 #include "icontile.h"
 
 #include "fontsizes.h"
+#include "presskeys.h"
 
+#include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
 #include <QStyleOption>
@@ -64,4 +66,12 @@ void IconTile::paintEvent(QPaintEvent *) {
         focus.initFrom(this);
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
     }
+}
+
+void IconTile::keyPressEvent(QKeyEvent *event) {
+    // Space presses and lets go by itself; Enter would otherwise go past a button that is in no dialog.
+    if (isPressKey(event->key()) && event->key() != Qt::Key_Space)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
 }

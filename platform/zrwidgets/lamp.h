@@ -8,8 +8,9 @@
 class QPainter;
 class QRectF;
 
-/// Colour of a lamp. The shape says the same, for those who cannot tell the colours apart.
+/// Colour of a lamp, from the palette "quality". The shape says the same, for those who cannot tell the colours apart.
 QColor lampColor(MeasQuality quality);
 
-/// Draws a lamp centred in `rect`: disc = good, triangle = warning, square = bad, ring = not measured.
+/// Draws a lamp of at most 12 pixels centred in `rect`, with the painter's own settings kept. GUI thread only.
+/// Shapes: disc = good, triangle = warning, square = bad, ring = not measured.
 void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality);
