@@ -34,7 +34,8 @@ private:
     }
 
     void checkName(const QString &name) {
-        static const QRegularExpression whiteSpace(u"\\s"_s);
+        // White space of every script, such as the no-break space.
+        static const QRegularExpression whiteSpace(u"\\s"_s, QRegularExpression::UseUnicodePropertiesOption);
         if (name.contains(whiteSpace))
             throw QtArgDissallowedFlagOrNameEx("Dissallowed name: \""_L1 + name + "\"."_L1);
         if (knownNames.contains(name))

@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,32 +22,39 @@ void QtArgCmdLine::parse() {
     checkDefinitions(options, delimiterCharacter);
     lastOptionWord.clear();
     while (!context.atEnd())
-        parseWord(QString(context.next()));
+        parseWord(context.next());
     for (const QtArgIface *const option : std::as_const(options))
         option->checkMandatory();
 }
 
-void QtArgCmdLine::parseWord(const QString &word) {
-    const qsizetype equals = word.indexOf(u'=');
-    const QString optionWord = equals < 0 ? word : word.first(equals);
-    if (equals >= 0)
-        context.prepend(word.mid(equals + 1));
-
+void QtArgCmdLine::parseWord(QString word) {
     if (isLongName(word)) {
+        const QString optionWord = withoutValue(std::move(word));
         QtArgIface &option = optionNamed(withoutDelimiters(optionWord));
         lastOptionWord = optionWord;
         apply(option, context);
     } else if (isFlagGroup(word)) {
-        parseFlags(withoutDelimiters(optionWord));
+        parseFlags(withoutDelimiters(withoutValue(std::move(word))));
     } else {
         throw QtArgUnexpectedOptionEx(
             u"Unexpected option: %1. Argument \"%2\" doesn't expect any values."_s.arg(word, lastOptionWord));
     }
 }
 
+QString QtArgCmdLine::withoutValue(QString word) {
+    const qsizetype equals = word.indexOf(u'=');
+    if (equals < 0)
+        return word;
+    const QString optionWord = word.first(equals);
+    // Cut in place: a word of nothing but "-=" is split at each of them, and a copy a split takes minutes.
+    word.remove(0, equals + 1);
+    context.prepend(word);
+    return optionWord;
+}
+
 void QtArgCmdLine::parseFlags(const QString &flags) {
     for (qsizetype i = 0; i < flags.size(); ++i) {
-        QtArgIface &option = optionFlagged(flags[i]);
+        QtArgIface &option = optionFlagged(flags, i);
         lastOptionWord = QString(delimiterCharacter) + flags[i];
         QtArgCmdLineContext noWords;
         apply(option, i + 1 == flags.size() ? context : noWords);
@@ -87,10 +95,12 @@ QtArgIface &QtArgCmdLine::optionNamed(const QString &name) const {
     return **first;
 }
 
-QtArgIface &QtArgCmdLine::optionFlagged(QChar flag) const {
+QtArgIface &QtArgCmdLine::optionFlagged(const QString &flags, qsizetype place) const {
     for (QtArgIface *const option : options) {
-        if (option->flags().contains(flag))
+        if (option->flags().contains(flags[place]))
             return *option;
     }
-    throw QtArgUnknownArgumentEx("Unknown argument: "_L1 + delimiterCharacter + flag);
+    // A character outside the basic plane is never a flag, and is told whole.
+    const qsizetype length = flags[place].isHighSurrogate() ? 2 : 1;
+    throw QtArgUnknownArgumentEx("Unknown argument: "_L1 + delimiterCharacter + flags.mid(place, length));
 }

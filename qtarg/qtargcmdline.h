@@ -23,14 +23,17 @@ public:
     static const QChar defaultDelimiter;
 
 private:
-    void parseWord(const QString &word);
+    void parseWord(QString word);
+    /// The part before the first "="; the value after it becomes the next word.
+    QString withoutValue(QString word);
     void parseFlags(const QString &flags);
     void apply(QtArgIface &option, QtArgCmdLineContext &valueContext);
     bool isLongName(const QString &word) const;
     bool isFlagGroup(const QString &word) const;
     QString withoutDelimiters(const QString &word) const;
     QtArgIface &optionNamed(const QString &name) const;
-    QtArgIface &optionFlagged(QChar flag) const;
+    /// The option for the character at `place` in a group of flags.
+    QtArgIface &optionFlagged(const QString &flags, qsizetype place) const;
 
     QtArgCmdLineContext context;
     QList<QtArgIface *> options;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qtargcmdlinecontext.h"
 
+#include <utility>
+
 const QString QtArgCmdLineContext::m_null;
 
 QtArgCmdLineContext::QtArgCmdLineContext(const QStringList &words) : words(words) {}
 
-const QString &QtArgCmdLineContext::next() {
-    return atEnd() ? m_null : words.at(firstWord++);
+QString QtArgCmdLineContext::next() {
+    return atEnd() ? m_null : std::move(words[firstWord++]);
 }
 
 void QtArgCmdLineContext::prepend(const QString &word) {

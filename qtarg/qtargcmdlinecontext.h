@@ -12,7 +12,7 @@ public:
 
     bool atEnd() const { return firstWord == words.size(); }
     /// Takes the first word; `m_null` when there is none.
-    const QString &next();
+    QString next();
     /// Puts a word back in front.
     void prepend(const QString &word);
 
