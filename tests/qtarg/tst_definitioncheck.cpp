@@ -11,10 +11,14 @@ class DefinitionCheckTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"^QObject::connect"_s)); }
+
     void mistakeInADefinitionIsTold_data();
     void mistakeInADefinitionIsTold();
     void firstMistakeInOrderIsTold();
     void flagIsCheckedAgainstTheDelimiterInUse();
+    void optionIsCheckedAgainstItself();
+    void emptyNameIsAName();
 
 private:
     static QString mistakeIn(const QList<QtArgIface *> &options, QChar delimiter = u'-') {
@@ -43,6 +47,16 @@ void DefinitionCheckTest::mistakeInADefinitionIsTold_data() {
     QTest::newRow("flag in use") << QChar(u'k') << QString() << u"Flag already in use: k."_s;
     QTest::newRow("name with a blank") << QChar() << u"a b"_s << u"Dissallowed name: \"a b\"."_s;
     QTest::newRow("name with a tab") << QChar() << u"a\tb"_s << u"Dissallowed name: \"a\tb\"."_s;
+    QTest::newRow("name with a line feed") << QChar() << u"a\n"_s << u"Dissallowed name: \"a\n\"."_s;
+    QTest::newRow("name with a no-break space")
+        << QChar() << u"a\u00A0b"_s << u"Dissallowed name: \"a\u00A0b\"."_s;
+    QTest::newRow("half a surrogate pair as flag")
+        << QChar(u'\xD83D') << QString() << "Dissallowed flag: \""_L1 + QChar(u'\xD83D') + "\"."_L1;
+    QTest::newRow("flag in use differs by case") << QChar(u'K') << QString() << u"none"_s;
+    QTest::newRow("flag is told before the name")
+        << QChar(u'k') << u"known"_s << u"Flag already in use: k."_s;
+    QTest::newRow("name begins with one in use") << QChar() << u"known-too"_s << u"none"_s;
+    QTest::newRow("name with the delimiter") << QChar() << u"-f"_s << u"none"_s;
     QTest::newRow("name in use") << QChar() << u"known"_s << u"Name already in use: known."_s;
 }
 
@@ -64,6 +78,21 @@ void DefinitionCheckTest::firstMistakeInOrderIsTold() {
 void DefinitionCheckTest::flagIsCheckedAgainstTheDelimiterInUse() {
     QtArg option(u'x', QString(), u""_s, false, false);
     QCOMPARE(mistakeIn({&option}, u'x'), u"Dissallowed flag: \"x\"."_s);
+}
+
+void DefinitionCheckTest::optionIsCheckedAgainstItself() {
+    QtArg flags(u'f', QString(), u""_s, false, false);
+    flags.addFlag(u'f');
+    QCOMPARE(mistakeIn({&flags}), u"Flag already in use: f."_s);
+    QtArg names(QChar(), u"file"_s, u""_s, false, false);
+    names.addName(u"file"_s);
+    QCOMPARE(mistakeIn({&names}), u"Name already in use: file."_s);
+}
+
+void DefinitionCheckTest::emptyNameIsAName() {
+    QtArg option(QChar(), QString(), u""_s, false, false);
+    option.addName(QString());
+    QCOMPARE(mistakeIn({&option}), u"none"_s);
 }
 
 QTEST_GUILESS_MAIN(DefinitionCheckTest)

@@ -10,6 +10,8 @@ class HelpLayoutTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(u"^QObject::connect"_s)); }
+
     void namesShowWhatMayBeLeftOut_data();
     void namesShowWhatMayBeLeftOut();
     void columnsAreAligned();
