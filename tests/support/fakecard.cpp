@@ -1,0 +1,236 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "fakecard.h"
+
+#include <arpa/inet.h>
+#include <array>
+#include <csignal>
+#include <cstring>
+#include <pty.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <termios.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray framed(const QByteArray &lines) {
+    return (lines.isEmpty() ? QByteArray() : lines + '\n') + ".\n";
+}
+
+void writeAll(int descriptor, const QByteArray &bytes) {
+    qsizetype written = 0;
+    while (descriptor >= 0 && written < bytes.size()) {
+        const ssize_t count =
+            ::write(descriptor, bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
+        if (count <= 0)
+            return;
+        written += count;
+    }
+}
+
+void closeDescriptor(int &descriptor) {
+    if (descriptor >= 0)
+        ::close(descriptor);
+    descriptor = -1;
+}
+
+} // namespace
+
+FakeCard::FakeCard(Wire wireKind) : wire(wireKind), context(std::make_unique<QObject>()) {
+    std::signal(SIGPIPE, SIG_IGN);
+    context->moveToThread(&thread);
+    thread.start();
+    inThread([this] {
+        listen(commandLine, QStringLiteral("commands"));
+        listen(updateLine, QStringLiteral("updates"));
+    });
+}
+
+FakeCard::~FakeCard() {
+    close();
+    thread.quit();
+    thread.wait();
+}
+
+void FakeCard::inThread(const std::function<void()> &work) const {
+    QMetaObject::invokeMethod(context.get(), work, Qt::BlockingQueuedConnection);
+}
+
+void FakeCard::setReply(const QByteArray &command, const QByteArray &lines) {
+    setRawReply(command, framed(lines));
+}
+
+void FakeCard::setRawReply(const QByteArray &command, const QByteArray &bytes) {
+    inThread([&] { replies.insert(command, bytes); });
+}
+
+void FakeCard::setUpdateAfter(const QByteArray &command, const QByteArray &bytes) {
+    inThread([&] { updatesAfter.insert(command, bytes); });
+}
+
+void FakeCard::setSingleBytes(bool on) {
+    inThread([&] { sendsSingleBytes = on; });
+}
+
+void FakeCard::hangUpAfterReply() {
+    inThread([this] { hangsUp = true; });
+}
+
+void FakeCard::hold() {
+    inThread([this] { holds = true; });
+}
+
+void FakeCard::release() {
+    inThread([this] {
+        holds = false;
+        for (const QByteArray &reply : std::exchange(heldReplies, {}))
+            send(reply);
+    });
+}
+
+void FakeCard::sendUnasked(const QByteArray &bytes) {
+    inThread([&] { writeAll(commandLine.peer, bytes); });
+}
+
+void FakeCard::sendUpdate(const QByteArray &bytes) {
+    inThread([&] { writeAll(updateLine.peer, bytes); });
+}
+
+void FakeCard::closeUpdates() {
+    inThread([this] { hangUp(updateLine); });
+}
+
+void FakeCard::close() {
+    inThread([this] {
+        for (Line *const line : {&commandLine, &updateLine}) {
+            hangUp(*line);
+            line->notifier.reset();
+            closeDescriptor(line->listener);
+            closeDescriptor(line->otherEnd);
+        }
+    });
+}
+
+QList<QByteArray> FakeCard::commands() const {
+    QList<QByteArray> copy;
+    inThread([&] { copy = receivedCommands; });
+    return copy;
+}
+
+int FakeCard::calls() const {
+    int count = 0;
+    inThread([&] { count = callCount; });
+    return count;
+}
+
+void FakeCard::listen(Line &line, const QString &name) {
+    if (wire == Serial) {
+        openPty(line);
+        return;
+    }
+    if (wire == Unix) {
+        const QString path = directory.filePath(name);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::strncpy(address.sun_path, path.toLocal8Bit().constData(), sizeof address.sun_path - 1);
+        line.listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        ::bind(line.listener, reinterpret_cast<const sockaddr *>(&address), sizeof address);
+        line.address = QLatin1String("unix:") + path;
+    } else {
+        sockaddr_in address{};
+        address.sin_family = AF_INET;
+        address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t length = sizeof address;
+        line.listener = ::socket(AF_INET, SOCK_STREAM, 0);
+        ::bind(line.listener, reinterpret_cast<const sockaddr *>(&address), length);
+        ::getsockname(line.listener, reinterpret_cast<sockaddr *>(&address), &length);
+        line.address = QStringLiteral("tcp:127.0.0.1:%1").arg(ntohs(address.sin_port));
+    }
+    ::listen(line.listener, 5);
+    watch(line);
+}
+
+void FakeCard::openPty(Line &line) {
+    std::array<char, 64> name{};
+    termios settings{};
+    ::cfmakeraw(&settings);
+    ::openpty(&line.peer, &line.otherEnd, name.data(), &settings, nullptr);
+    line.address = QLatin1String("serial:") + QString::fromLatin1(name.data());
+    watch(line);
+}
+
+/// Watches the connection, or for a new one when there is none.
+void FakeCard::watch(Line &line) {
+    // The notifier may be the one that is calling.
+    if (line.notifier)
+        line.notifier.release()->deleteLater();
+    const int descriptor = line.peer >= 0 ? line.peer : line.listener;
+    line.notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
+    QObject::connect(line.notifier.get(), &QSocketNotifier::activated, context.get(), [this, &line] {
+        if (line.peer >= 0)
+            read(line);
+        else
+            accept(line);
+    });
+}
+
+void FakeCard::accept(Line &line) {
+    line.peer = ::accept(line.listener, nullptr, nullptr);
+    line.received.clear();
+    if (&line == &commandLine)
+        ++callCount;
+    watch(line);
+}
+
+void FakeCard::read(Line &line) {
+    std::array<char, 4096> buffer{};
+    const ssize_t length = ::read(line.peer, buffer.data(), buffer.size());
+    if (length <= 0) {
+        hangUp(line);
+        return;
+    }
+    line.received.append(buffer.data(), length);
+    if (&line != &commandLine)
+        return;
+    while (line.received.contains('\n')) {
+        const qsizetype lineFeed = line.received.indexOf('\n');
+        const QByteArray command = line.received.first(lineFeed);
+        line.received.remove(0, lineFeed + 1);
+        take(command);
+    }
+}
+
+void FakeCard::hangUp(Line &line) {
+    if (line.peer < 0)
+        return;
+    if (line.notifier) {
+        line.notifier->setEnabled(false);
+        line.notifier.release()->deleteLater();
+    }
+    closeDescriptor(line.peer);
+    if (line.listener >= 0)
+        watch(line);
+}
+
+void FakeCard::take(const QByteArray &command) {
+    receivedCommands.append(command);
+    QByteArray reply = replies.value(command, framed({}));
+    if (command.startsWith("repeat "))
+        reply = framed(command.mid(7));
+    if (holds)
+        heldReplies.append(reply);
+    else
+        send(reply);
+    writeAll(updateLine.peer, updatesAfter.value(command));
+}
+
+void FakeCard::send(const QByteArray &bytes) {
+    if (sendsSingleBytes) {
+        for (const char byte : bytes)
+            writeAll(commandLine.peer, QByteArray(1, byte));
+    } else {
+        writeAll(commandLine.peer, bytes);
+    }
+    if (std::exchange(hangsUp, false))
+        hangUp(commandLine);
+}
