@@ -80,6 +80,18 @@ void LedPanel::update(QList<QPair<QString, QString>> &data) {
     }
 }
 
+QStringList LedPanel::names() const {
+    QStringList names;
+    for (const Led &led : leds)
+        names.append(led.name);
+    return names;
+}
+
+MeasQuality LedPanel::quality(const QString &name) const {
+    const qsizetype index = indexesByName.value(name, -1);
+    return index < 0 ? NotMeasured : leds[index].quality;
+}
+
 QSize LedPanel::sizeHint() const {
     return isHorizontal ? QSize(columnWidth * int(qMin<qsizetype>(leds.size(), 8)), tallestRow + 2 * padding)
                         : QSize(columnWidth - 4, tallestRow * 4);

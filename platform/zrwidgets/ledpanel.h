@@ -37,6 +37,11 @@ public:
     /// is not there is passed over.
     void update(QList<QPair<QString, QString>> &data);
 
+    /// The lamps' names, in order.
+    QStringList names() const;
+    /// What the first lamp of that name shows; NotMeasured when there is none.
+    MeasQuality quality(const QString &name) const;
+
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "translucentwindow.h"
+
+#include "fontsizes.h"
+
+#include <QKeyEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QVBoxLayout>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int buttonHeight = 52;
+constexpr int widestContents = 560;
+
+} // namespace
+
+TranslucentWindow::TranslucentWindow(QWidget *parent, int sideMargin, int edgeMargin, int dimming)
+    : QDialog(parent, Qt::Dialog | Qt::FramelessWindowHint),
+      contentsLayout(new QVBoxLayout(this)),
+      freeMargins(sideMargin, edgeMargin),
+      dimmingAlpha(qBound(0, dimming, 255)) {
+    setProperty("palette_id", u"GenericWindow"_s);
+    // Letters as in the window it covers.
+    setAttribute(Qt::WA_WindowPropagation);
+    setModal(true);
+    contentsLayout->setContentsMargins(sideMargin, edgeMargin, sideMargin, edgeMargin);
+    contentsLayout->addStretch(1);
+    contentsLayout->addStretch(1);
+    if (parent)
+        parent->window()->installEventFilter(this);
+}
+
+QPushButton *TranslucentWindow::createButton(const QString &text, bool isDefault) {
+    auto *const button = new QPushButton(text, this);
+    button->setFont(FontSizes::sized(font(), FontSizes::Large, QFont::Bold));
+    button->setMinimumHeight(buttonHeight);
+    button->setAutoDefault(isDefault);
+    button->setDefault(isDefault);
+    return button;
+}
+
+void TranslucentWindow::addContent(QWidget *content, int left, int top, int right, int bottom) {
+    auto *const row = new QHBoxLayout;
+    row->setContentsMargins(left, top, right, bottom);
+    row->addStretch(1);
+    row->addWidget(content);
+    row->addStretch(1);
+    // Above the free space at the end.
+    contentsLayout->insertLayout(contentsLayout->count() - 1, row);
+}
+
+QWidget *TranslucentWindow::coveredWindow() const {
+    return parentWidget() ? parentWidget()->window() : nullptr;
+}
+
+QSize TranslucentWindow::roomForContents() const {
+    const QSize whole = coveredWindow() ? coveredWindow()->size() : screen()->availableSize();
+    const QSize room = whole - 2 * freeMargins;
+    return {qMin(widestContents, room.width()), room.height()};
+}
+
+void TranslucentWindow::fitContents() {}
+
+void TranslucentWindow::cover() {
+    QWidget *const covered = coveredWindow();
+    setGeometry(covered ? covered->geometry() : screen()->availableGeometry());
+    fitContents();
+    backdrop = covered ? covered->grab() : QPixmap();
+    update();
+}
+
+void TranslucentWindow::showEvent(QShowEvent *event) {
+    cover();
+    QDialog::showEvent(event);
+}
+
+bool TranslucentWindow::eventFilter(QObject *watched, QEvent *event) {
+    if (isVisible() && watched == coveredWindow() &&
+        (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+        cover();
+    return QDialog::eventFilter(watched, event);
+}
+
+void TranslucentWindow::paintEvent(QPaintEvent *) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().window());
+    painter.drawPixmap(0, 0, backdrop);
+    QColor dim = palette().color(QPalette::Dark);
+    dim.setAlpha(dimmingAlpha);
+    painter.fillRect(rect(), dim);
+}
+
+void TranslucentWindow::keyPressEvent(QKeyEvent *event) {
+    switch (event->key()) {
+    case Qt::Key_Back:
+        reject();
+        break;
+    case Qt::Key_Left:
+        focusPreviousChild();
+        break;
+    case Qt::Key_Right:
+        focusNextChild();
+        break;
+    default:
+        QDialog::keyPressEvent(event);
+    }
+}

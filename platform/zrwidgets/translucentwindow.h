@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDialog>
+#include <QPixmap>
+
+class QPushButton;
+class QVBoxLayout;
+
+/// A modal dialog that covers its parent's window: in the middle its contents, around them the window, dimmed.
+///
+/// It needs no window manager: it lies exactly on the parent's window and follows its size. What is seen dimmed is a
+/// picture taken when the dialog is shown. Left and Right go from button to button, Escape and the Back key reject.
+/// GUI thread only.
+class TranslucentWindow : public QDialog {
+    Q_OBJECT
+
+public:
+    /// At least `sideMargin` pixels stay free left and right of the contents, at least `edgeMargin` above and below.
+    /// `dimming` is how dark the rest becomes, from 0 (as it is) to 255 (nothing is seen of it).
+    TranslucentWindow(QWidget *parent, int sideMargin, int edgeMargin, int dimming);
+
+    /// A button of the height and type that dialogs have; `isDefault`: Enter presses it wherever the focus is. The dialog
+    /// becomes its parent until a layout says otherwise.
+    QPushButton *createButton(const QString &text, bool isDefault);
+    /// Puts `content` in the middle, below what was added before, with that many pixels around it.
+    void addContent(QWidget *content, int left, int top, int right, int bottom);
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+    /// The largest size that contents can have.
+    QSize roomForContents() const;
+    /// Called before the dialog is shown and when its size has changed, to fit the contents to roomForContents().
+    virtual void fitContents();
+
+private:
+    QWidget *coveredWindow() const;
+    void cover();
+
+    QVBoxLayout *contentsLayout;
+    QSize freeMargins;
+    int dimmingAlpha;
+    QPixmap backdrop;
+};
