@@ -1,15 +1,68 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/cardsmanager.h"
 
-#include "plugins/pluginscollection.h"
+#include "cards/cardinfo.h"
+#include "cards/meascard.h"
+#include "measlogid.h"
+#include "plugins/cardpluginscollection.h"
 #include "ui/launcherwindow.h"
 #include "zrlauncherconfig.h"
 
+#include <warningwindow.h>
+
+#include <QDBusConnection>
 #include <QDebug>
+
+#include <algorithm>
+#include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
 
 CardsManager::CardsManager(QObject *parent) : QObject(parent) {}
+
+CardsManager::~CardsManager() {
+    // Before the collections that they are bound to, which are children too and older.
+    qDeleteAll(cards);
+}
+
+void CardsManager::scanAndSubscribe() {
+    subscribe();
+    scan();
+}
+
+void CardsManager::subscribe() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        std::cerr << "No connection to the D-Bus session bus.\n" << std::flush;
+        return;
+    }
+    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"inserted"_s, this,
+                SLOT(cardInserted(QString, int, QString, QString)));
+    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"removed"_s, this, SLOT(cardRemoved(QString, int)));
+}
+
+void CardsManager::scan() {
+    runPersistent();
+    const std::optional<QStringList> files = cardInfoFiles(cardInfoDirectory());
+    if (!files) {
+        qDebug() << "Info dir tmp/user doesn't exist";
+        return;
+    }
+    for (const QString &file : *files)
+        scanFile(file);
+}
+
+void CardsManager::scanFile(const QString &path) {
+    const std::optional<QList<QByteArray>> pieces = readCardInfoFile(path);
+    if (!pieces) {
+        qDebug() << "Can't open file " << path;
+        return;
+    }
+    if (const std::optional<CardInfo> card = cardInfo(*pieces))
+        cardInserted(card->name, card->sn, card->cardiface, card->poller);
+    else
+        qDebug() << *pieces << " is not enough";
+}
 
 void CardsManager::runPersistent() {
     const QStringList names = ZrLauncherConfig(u"plugins"_s)[u"persistent"_s].string().split(u' ');
@@ -26,6 +79,43 @@ void CardsManager::runPersistent() {
 
 PluginsCollection *CardsManager::makePersistentCollection(const QString &name) {
     // The instrument's own collection outlives the manager: it belongs to nobody.
-    const bool isInstrumentsOwn = name == "zr"_L1;
-    return new PluginsCollection(name, true, isInstrumentsOwn ? nullptr : this);
+    if (name == "zr"_L1)
+        return new PluginsCollection(name, true, nullptr);
+    return new CardPluginsCollection(name, nullptr, true, this);
+}
+
+void CardsManager::cardInserted(const QString &name, int sn, const QString &cardiface,
+                                const QString &poller) {
+    if (!MeaslogID.contains(name)) {
+        refuse(name);
+        return;
+    }
+    qDebug() << "cardInserted"
+             << "name, sn, cardiface, poller ==" << name << sn << cardiface << poller;
+    auto *const card = new MeasCard(name, sn, cardiface, poller, this);
+    qDebug() << "new card inserted";
+    cards.append(card);
+    emit cardIsInserted(name, sn, cardiface, poller);
+}
+
+void CardsManager::refuse(const QString &name) {
+    const QString text = tr("Sorry, card type %1 is unvalid").arg(name);
+    if (!warningWindow)
+        warningWindow = new WarningWindow(LauncherWindow::instance());
+    warningWindow->show(text, QString());
+    qDebug() << text;
+}
+
+void CardsManager::cardRemoved(const QString &name, int sn) {
+    const auto card = std::find_if(cards.cbegin(), cards.cend(), [&](const MeasCard *candidate) {
+        return candidate->name() == name && candidate->serial() == sn;
+    });
+    if (card != cards.cend()) {
+        MeasCard *const removed = *card;
+        cards.erase(card);
+        delete removed;
+    } else {
+        qDebug() << "no such card:" << name << "(" << sn << ")";
+    }
+    emit cardIsRemoved(name, sn);
 }

@@ -1,24 +1,53 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
 #include <QMap>
 #include <QObject>
 #include <QString>
 
+class MeasCard;
 class PluginsCollection;
+class WarningWindow;
 
-/// Keeps the plug-in collections that exist from the start whatever cards are inserted. GUI thread only.
+/// Follows the measurement cards, as the card service tells them on the session bus (docs/protocols.md, "Card service"), and
+/// keeps the plug-in collections that exist from the start whatever cards are inserted. GUI thread only.
 class CardsManager : public QObject {
     Q_OBJECT
 
 public:
     explicit CardsManager(QObject *parent = nullptr);
+    ~CardsManager() override;
 
+    /// First the bus, then what is there already: a card that comes in between is not missed.
+    void scanAndSubscribe();
+    void subscribe();
+    void scan();
     /// Creates the collections that the configuration names and hands each to the launcher window.
     void runPersistent();
 
+    /// The collection of that name that runPersistent() created; null when there is none.
+    PluginsCollection *persistentCollection(const QString &name) const {
+        return persistentCollections.value(name);
+    }
+
+signals:
+    /// A card was created.
+    void cardIsInserted(QString name, int sn, QString cardiface, QString poller);
+    /// A removal was announced, whether there was such a card or not.
+    void cardIsRemoved(QString name, int sn);
+
+protected slots:
+    void cardInserted(const QString &name, int sn, const QString &cardiface, const QString &poller);
+    void cardRemoved(const QString &name, int sn);
+
 private:
     PluginsCollection *makePersistentCollection(const QString &name);
+    void scanFile(const QString &path);
+    void refuse(const QString &name);
 
     QMap<QString, PluginsCollection *> persistentCollections;
+    /// In order of arrival.
+    QList<MeasCard *> cards;
+    WarningWindow *warningWindow = nullptr;
 };

@@ -2,7 +2,8 @@
 #include "ui/launcherwindow.h"
 
 #include "cards/cardsmanager.h"
-#include "plugins/pluginscollection.h"
+#include "cards/meascard.h"
+#include "plugins/cardpluginscollection.h"
 #include "ui/icongrid.h"
 #include "ui/launcherheader.h"
 #include "ui/ui_launcherwindow.h"
@@ -79,7 +80,7 @@ LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_
     initCollectionLabels();
 
     cardsManager = new CardsManager(this);
-    cardsManager->runPersistent();
+    cardsManager->scanAndSubscribe();
 }
 
 LauncherWindow::~LauncherWindow() {
@@ -190,6 +191,11 @@ bool LauncherWindow::cardInsertPersist() const {
            isCardInsertionPersistent(currentPlugin);
 }
 
+void LauncherWindow::rmCardPage(MeasCard *card) {
+    const QList<CardPluginsCollection *> collections = card->collections();
+    rmCollectionPages({collections.cbegin(), collections.cend()});
+}
+
 void LauncherWindow::rmCollectionPages(const QList<PluginsCollection *> &collections) {
     bool currentWasRemoved = false;
     for (PluginsCollection *const collection : collections) {
@@ -198,12 +204,18 @@ void LauncherWindow::rmCollectionPages(const QList<PluginsCollection *> &collect
         rmCollectionPage(collection);
         currentWasRemoved |= collection == currentCollection;
     }
-    if (!currentWasRemoved)
-        return;
-    PluginsCollection *const next = collectionButtons.isEmpty() ? nullptr : collectionButtons.firstKey();
-    switchMeasPage(next);
-    if (next)
-        checkSelectorButton(next);
+    if (currentWasRemoved)
+        showFirstCollectionBut(collections);
+}
+
+void LauncherWindow::showFirstCollectionBut(const QList<PluginsCollection *> &removed) {
+    // A card that does not answer refuses its page; the screen must not stay with what is about to be deleted.
+    for (PluginsCollection *const next : collectionButtons.keys()) {
+        switchMeasPage(next);
+        if (!removed.contains(currentCollection))
+            return;
+    }
+    switchMeasPage(nullptr);
 }
 
 void LauncherWindow::rmCollectionPage(PluginsCollection *collection) {

@@ -14,6 +14,7 @@ class ControlBottomPanel;
 class GenericPlugin;
 class LauncherHeader;
 class LauncherPlugin;
+class MeasCard;
 class PluginsCollection;
 class QAbstractButton;
 class QButtonGroup;
@@ -56,6 +57,8 @@ public:
     /// Makes page, selector button and information panel of `collection` and loads it. The caller keeps the
     /// collection and must take its pages out before deleting it.
     void newCollectionPage(PluginsCollection *collection);
+    /// Takes the pages of a card that goes out of the window, but for those that stay.
+    void rmCardPage(MeasCard *card);
     /// Unloads those of `collections` that are not persistent and takes their pages out. When the current one
     /// was among them, the first remaining collection takes the screen.
     void rmCollectionPages(const QList<PluginsCollection *> &collections);
@@ -105,6 +108,7 @@ private:
     void addSelectorButton(PluginsCollection *collection);
     void addInfoPanel(PluginsCollection *collection);
     void rmCollectionPage(PluginsCollection *collection);
+    void showFirstCollectionBut(const QList<PluginsCollection *> &removed);
     void switchMeasPage(PluginsCollection *collection);
     void showCollectionPage(PluginsCollection *collection);
     void checkSelectorButton(PluginsCollection *collection);

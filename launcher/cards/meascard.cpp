@@ -1,0 +1,149 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "cards/meascard.h"
+
+#include "cards/cardreplies.h"
+#include "cards/cardsmanager.h"
+#include "plugins/cardpluginscollection.h"
+#include "ui/launcherwindow.h"
+
+#include <cardcontroller.h>
+#include <controllercommand.h>
+#include <dataproxy.h>
+#include <warningwindow.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+MeasCard::MeasCard(const QString &name, int serial, const QString &iface, const QString &updates,
+                   CardsManager *manager)
+    : QObject(manager),
+      cardsManager(manager),
+      cardName(name),
+      sn(serial),
+      cardiface(iface),
+      poller(updates),
+      currentMode(name) {
+    controller.reset(CardController::newCard(name, QString::number(sn), cardiface, poller));
+    if (!controller)
+        qBadAlloc();
+    readIdentification();
+    indicators = controller->dataProxy(u"indicators"_s, nullptr);
+    if (!indicators)
+        qBadAlloc();
+    connect(indicators, SIGNAL(updated(QVariantMap &, QString)), this, SLOT(redrawLeds(QVariantMap &)));
+    connect(controller.get(), SIGNAL(showErrorMessage(QString, QString)), warning(),
+            SLOT(show(QString, QString)));
+    initPlugins();
+}
+
+MeasCard::~MeasCard() {
+    LauncherWindow::instance()->rmCardPage(this);
+    if (freeCollections()) {
+        // Plug-ins of the collection that stays may hold the controller: it is kept for the next card of this type.
+        controller->freeCard();
+        static_cast<void>(controller.release());
+    }
+    if (warningWindow)
+        warningWindow->retire();
+}
+
+/// Returns whether one of the collections stays.
+bool MeasCard::freeCollections() {
+    bool onePersists = false;
+    for (CardPluginsCollection *const collection : std::as_const(cardCollections)) {
+        if (collection->persistent()) {
+            collection->freeMeasCard();
+            onePersists = true;
+        } else {
+            delete collection;
+        }
+    }
+    cardCollections.clear();
+    return onePersists;
+}
+
+QString MeasCard::uniqueName() const {
+    return u"%1-%2"_s.arg(cardName, QString::number(sn));
+}
+
+void MeasCard::readIdentification() {
+    options = controller->doCommand(u"options"_s);
+    hardwareRevision = controller->doCommand(u"hwrevision"_s);
+    versions = controller->doCommand(u"versions"_s);
+    isDualMode = replyLines(options).contains("ZR-SIG1"_L1);
+}
+
+void MeasCard::initPlugins() {
+    if (!isDualMode) {
+        initPlugins(cardName);
+    } else if (controller->doCommand(u"operation"_s).contains("sa"_L1)) {
+        initPlugins(cardName);
+        initPlugins(u"sa"_s);
+        currentMode = u"sa"_s;
+    } else {
+        initPlugins(u"sa"_s);
+        initPlugins(cardName);
+        currentMode = u"e1"_s;
+    }
+    controller->doCommand(u"parameters"_s);
+}
+
+void MeasCard::initPlugins(const QString &type) {
+    auto *collection = qobject_cast<CardPluginsCollection *>(cardsManager->persistentCollection(type));
+    if (collection) {
+        collection->setMeasCard(this);
+    } else {
+        collection = new CardPluginsCollection(type, this, false, nullptr);
+        LauncherWindow::instance()->newCollectionPage(collection);
+    }
+    cardCollections.append(collection);
+}
+
+void MeasCard::deinitPlugins() {
+    qDeleteAll(cardCollections);
+    cardCollections.clear();
+}
+
+bool MeasCard::changeMode(const QString &mode) {
+    if (!isDualMode || mode == currentMode)
+        return true;
+    ControllerCommand command(mode == "e1"_L1 ? u"operation pcm"_s : u"operation sa"_s, false);
+    if (controller->doCommand(command) <= 0)
+        return false;
+    controller->doCommand(u"parameters"_s);
+    currentMode = mode;
+    return true;
+}
+
+void MeasCard::resetLeds() {
+    controller->doCommandGetUpdate(u"status alarms reset"_s);
+}
+
+QStringList MeasCard::readLedsNames() {
+    return ledNamesIn(controller->doCommand(u"status alarms"_s));
+}
+
+QList<QPair<QString, QString>> MeasCard::ledsStates(const QVariantMap &data) const {
+    return ledStatesOf(data);
+}
+
+void MeasCard::promptRedrawLeds() {
+    emit setupLeds(readLedsNames());
+    QVariantMap data = indicators->data();
+    redrawLeds(data);
+}
+
+void MeasCard::redrawLeds(QVariantMap &data) {
+    const QStringList keys = data.keys();
+    if (keys != ledKeys) {
+        ledKeys = keys;
+        emit setupLeds(readLedsNames());
+    }
+    QList<QPair<QString, QString>> states = ledsStates(data);
+    emit updateLeds(states);
+}
+
+WarningWindow *MeasCard::warning() {
+    if (!warningWindow)
+        warningWindow = new WarningWindow(LauncherWindow::instance());
+    return warningWindow;
+}
