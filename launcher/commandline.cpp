@@ -64,7 +64,8 @@ QStringList launcherArguments(const QStringList &arguments) {
     for (qsizetype i = 1; i < arguments.size(); ++i) {
         const QString name = optionName(arguments[i]);
         const qsizetype equals = name.indexOf(u'=');
-        if (toolkitOptionsWithValue.contains(name))
+        const bool hasNext = i + 1 < arguments.size();
+        if (toolkitOptionsWithValue.contains(name) && hasNext)
             ++i;
         else if (equals < 0 ? !toolkitOptionsAlone.contains(name)
                             : !toolkitOptionsWithEquals.contains(name.first(equals)))

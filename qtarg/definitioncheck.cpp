@@ -26,7 +26,7 @@ public:
 
 private:
     void checkFlag(QChar flag) {
-        if (flag == delimiter || !flag.isLetterOrNumber())
+        if (flag == delimiter || !(flag.isLetter() || flag.isDigit()))
             throw QtArgDissallowedFlagOrNameEx("Dissallowed flag: \""_L1 + flag + "\"."_L1);
         if (knownFlags.contains(flag))
             throw QtArgNameOrFlagAlreadyKnownEx("Flag already in use: "_L1 + flag + u'.');

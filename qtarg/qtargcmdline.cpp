@@ -45,7 +45,7 @@ QString QtArgCmdLine::withoutValue(QString word) {
     const qsizetype equals = word.indexOf(u'=');
     if (equals < 0)
         return word;
-    const QString optionWord = word.first(equals);
+    QString optionWord = word.first(equals);
     // Cut in place: a word of nothing but "-=" is split at each of them, and a copy a split takes minutes.
     word.remove(0, equals + 1);
     context.prepend(word);

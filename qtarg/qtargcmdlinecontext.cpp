@@ -8,7 +8,9 @@ const QString QtArgCmdLineContext::m_null;
 QtArgCmdLineContext::QtArgCmdLineContext(const QStringList &words) : words(words) {}
 
 QString QtArgCmdLineContext::next() {
-    return atEnd() ? m_null : std::move(words[firstWord++]);
+    if (atEnd())
+        return m_null;
+    return std::move(words[firstWord++]);
 }
 
 void QtArgCmdLineContext::prepend(const QString &word) {

@@ -5,6 +5,7 @@
 
 #include <genericplugin.h>
 #include <launcherplugin.h>
+#include <zrconfig.h>
 
 #include <QDebug>
 #include <QFileInfo>
@@ -33,6 +34,15 @@ std::optional<QString> failureOf(Work work) {
         return u"unknown exception"_s;
     }
     return std::nullopt;
+}
+
+/// The window is never created just to be taken out.
+QWidget *existingWindow(GenericPlugin *plugin) {
+    return plugin->windowCreated() ? plugin->pluginWindow() : nullptr;
+}
+
+QWidget *existingWindow(LauncherPlugin *plugin) {
+    return plugin->pluginWindow();
 }
 
 void tellFailure(const QString &file, const QString &reason) {
@@ -73,8 +83,8 @@ void PluginsCollection::load() {
                   << std::endl;
         return;
     }
-    const QString prefix = store.value(u"plugins/path"_s).toString() + u'/';
-    const QStringList names = store.value("plugins/"_L1 + collectionName).toString().split(u' ');
+    const QString prefix = ZrConfig::textOf(store.value(u"plugins/path"_s)) + u'/';
+    const QStringList names = ZrConfig::textOf(store.value("plugins/"_L1 + collectionName)).split(u' ');
 
     Loaded loaded;
     for (const QString &name : names) {
@@ -94,8 +104,8 @@ void PluginsCollection::loadGroup(QSettings &store, const QString &group, const 
     const unsigned int version = store.value(u"ver"_s).toUInt();
     const int column = gridIndex(store.value(u"col"_s));
     const int row = gridIndex(store.value(u"row"_s));
-    const QString file = prefix + store.value(u"name"_s).toString();
-    const QString settingsText = store.value(u"settings"_s).toString();
+    const QString file = prefix + ZrConfig::textOf(store.value(u"name"_s));
+    const QString settingsText = ZrConfig::textOf(store.value(u"settings"_s));
     store.endGroup();
 
     if (version == OldStyle) {
@@ -218,13 +228,25 @@ void PluginsCollection::unload() {
 
 void PluginsCollection::unloadPlugin(QPluginLoader *loader) {
     QObject *const root = loader->instance();
-    if (auto *const plugin = qobject_cast<GenericPlugin *>(root)) {
-        // The window is never created just to be taken out.
-        QWidget *const window = plugin->windowCreated() ? plugin->pluginWindow() : nullptr;
-        removeFromLauncher(plugin->iconWidget(), plugin->statusWidget(), window);
-    }
+    if (auto *const plugin = qobject_cast<GenericPlugin *>(root))
+        takeOut(plugin, loader->fileName());
     if (auto *const plugin = qobject_cast<LauncherPlugin *>(root))
-        removeFromLauncher(plugin->iconWidget(), plugin->statusWidget(), plugin->pluginWindow());
+        takeOut(plugin, loader->fileName());
+}
+
+template <typename T>
+void PluginsCollection::takeOut(T *plugin, const QString &file) {
+    // Each by itself: one that throws must not leave the others in the window.
+    const auto widgetOf = [&file](auto getter) {
+        QWidget *widget = nullptr;
+        if (const std::optional<QString> failure = failureOf([&] { widget = getter(); }))
+            tellFailure(file, *failure);
+        return widget;
+    };
+    QWidget *const icon = widgetOf([plugin] { return plugin->iconWidget(); });
+    QWidget *const status = widgetOf([plugin] { return plugin->statusWidget(); });
+    QWidget *const window = widgetOf([plugin] { return existingWindow(plugin); });
+    removeFromLauncher(icon, status, window);
 }
 
 void PluginsCollection::removeFromLauncher(QWidget *icon, QWidget *status, QWidget *window) {

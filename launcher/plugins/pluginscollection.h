@@ -74,6 +74,8 @@ private:
     void placeStatusWidget(QWidget *status);
     void dropLastLoader(const QString &file, const QString &reason);
     void unloadPlugin(QPluginLoader *loader);
+    template <typename T>
+    void takeOut(T *plugin, const QString &file);
     void removeFromLauncher(QWidget *icon, QWidget *status, QWidget *window);
 
     QString collectionName;

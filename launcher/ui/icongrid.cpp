@@ -93,12 +93,15 @@ int IconGrid::rowsOf(const QWidget *icon) {
 }
 
 IconGrid::Placement IconGrid::place(QGridLayout *grid, QWidget *icon, int row, int column) {
-    Placement placement{row, column, rowsOf(icon)};
+    Placement placement;
+    placement.row = row;
+    placement.column = column;
+    placement.rows = rowsOf(icon);
     if (isFarOutside(row, column))
         moveToFirstFreeCell(grid, placement);
     for (int r = placement.row; r < placement.row + placement.rows; ++r) {
         if (QWidget *const replaced = clearCell(grid, r, placement.column))
-            placement.replacedIcon = replaced;
+            placement.replacedIcons.append(replaced);
     }
     grid->addWidget(icon, placement.row, placement.column, placement.rows, 1);
     return placement;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QList>
+
 class QGridLayout;
 class QWidget;
 
@@ -12,8 +14,8 @@ struct Placement {
     int row = 0;
     int column = 0;
     int rows = 1;
-    /// The icon that had the cell until now and has left the page's grid; null when there was none.
-    QWidget *replacedIcon = nullptr;
+    /// The icons that had the cells until now and have left the page's grid.
+    QList<QWidget *> replacedIcons;
     /// The cell asked for was far outside the grid, so the first free one was taken.
     bool wasMoved = false;
 };

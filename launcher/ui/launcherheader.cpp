@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/launcherheader.h"
 
+#include "ui/backbutton.h"
+
 #include <timebutton.h>
 
 #include <QHBoxLayout>
@@ -18,7 +20,7 @@ constexpr QSize smallestBackButton(150, 46);
 } // namespace
 
 LauncherHeader::LauncherHeader(QWidget *parent)
-    : QLabel(parent), backPushButton(new QPushButton), timeButton(new TimeButton) {
+    : QLabel(parent), backPushButton(new BackButton), timeButton(new TimeButton) {
     setProperty("palette_id", u"Chrome"_s);
     setAutoFillBackground(true);
     timeButton->setProperty("palette_id", u"TimeButton"_s);

@@ -30,6 +30,7 @@ void LauncherWindow::showPluginWindow(QWidget *window) {
     if (ui->stackedWidget->indexOf(window) < 0)
         addToStack(window);
     ui->stackedWidget->setCurrentWidget(window);
+    shownWindow = window;
     updateReportLabel();
     const bool hasSettings = currentCollection && currentCollection->hasSettings(currentPlugin);
     ui->labelSettings->setVisible(settingsCaller || hasSettings);
@@ -77,7 +78,15 @@ void LauncherWindow::showActiveCardPage() {
     ui->labelReport->hide();
     ui->labelSettings->hide();
     header->hideBackButton();
+    shownWindow = nullptr;
     currentPlugin = nullptr;
+    settingsCaller = nullptr;
+}
+
+void LauncherWindow::pluginWindowRemoved() {
+    // The stack would go on with some other plug-in's window.
+    if (shownWindow && ui->stackedWidget->indexOf(shownWindow) < 0)
+        showActiveCardPage();
 }
 
 bool LauncherWindow::stepBackInWindow() {
@@ -111,7 +120,6 @@ void LauncherWindow::goHome() {
     for (int level = 0; level < mostLevels && !stepBackInWindow(); ++level) {
     }
     hideActiveDialog();
-    settingsCaller = nullptr;
     showActiveCardPage();
 }
 

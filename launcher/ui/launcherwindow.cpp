@@ -55,10 +55,10 @@ void tellPlacement(const PluginsCollection *collection, const QWidget *icon,
     if (placement.wasMoved)
         std::cerr << "Plugin " << qPrintable(file) << " names no cell of the page; placed at row "
                   << placement.row + 1 << ", column " << placement.column + 1 << std::endl;
-    if (placement.replacedIcon)
-        std::cerr << "Plugin " << qPrintable(collection->fileOfIcon(placement.replacedIcon))
-                  << " loses its cell at row " << placement.row + 1 << ", column " << placement.column + 1
-                  << " to " << qPrintable(file) << std::endl;
+    for (const QWidget *const replaced : placement.replacedIcons)
+        std::cerr << "Plugin " << qPrintable(collection->fileOfIcon(replaced)) << " loses its cell at row "
+                  << placement.row + 1 << ", column " << placement.column + 1 << " to " << qPrintable(file)
+                  << std::endl;
 }
 
 } // namespace
@@ -73,6 +73,7 @@ LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_
     ui->setupUi(this);
     ui->mainHLayout->insertWidget(1, new PlainLine(PlainLine::Vertical, lineWidth, this));
     ui->labelSettings->hide();
+    connect(ui->stackedWidget, SIGNAL(widgetRemoved(int)), this, SLOT(pluginWindowRemoved()));
     initLauncherHeader();
     initReportPanel();
     initPageLauncher();
@@ -88,6 +89,7 @@ LauncherWindow::~LauncherWindow() {
     for (PluginsCollection *const collection : collectionPages.keys())
         collection->unload();
     delete cardsManager;
+    ui->stackedWidget->disconnect(this);
     ui.reset();
     launcherWindow = nullptr;
 }
@@ -298,11 +300,8 @@ void LauncherWindow::removeStatusPanelItem(QWidget *item) {
 }
 
 void LauncherWindow::removePluginWindow(QWidget *window) {
-    const bool wasCurrent = ui->stackedWidget->currentWidget() == window;
     ui->stackedWidget->removeWidget(window);
     window->setParent(nullptr);
-    if (wasCurrent)
-        showActiveCardPage();
 }
 
 void LauncherWindow::connectWithPlugin(GenericPlugin *plugin) {

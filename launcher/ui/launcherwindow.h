@@ -94,6 +94,7 @@ private slots:
     void cardSelButtonClicked(QAbstractButton *button);
     void loadButtonClicked();
     void saveButtonClicked();
+    void pluginWindowRemoved();
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -123,6 +124,8 @@ private:
 
     CardsManager *cardsManager = nullptr;
     PluginsCollection *currentCollection = nullptr;
+    /// The plug-in window on the screen, for comparison only: it may be deleted. Null while the icon page is shown.
+    QWidget *shownWindow = nullptr;
     QPointer<GenericPlugin> currentPlugin;
     QPointer<GenericPlugin> settingsCaller;
     std::unique_ptr<Ui_LauncherWindow> ui;

@@ -57,6 +57,8 @@ void Ui_LauncherWindow::setupUi(QWidget *window) {
 void Ui_LauncherWindow::setupLayouts(QWidget *window) {
     mainLayout = named(new QVBoxLayout(window), u"mainLayout"_s);
     mainLayout->setSpacing(0);
+    // The screen does not grow with what a plug-in wants to show on it.
+    mainLayout->setSizeConstraint(QLayout::SetNoConstraint);
     mainLayout->setContentsMargins(0, 0, 0, 0);
     mainHLayout = named(new QHBoxLayout, u"mainHLayout"_s);
     mainHLayout->setSpacing(0);
@@ -107,6 +109,7 @@ void Ui_LauncherWindow::setupLeftColumn(QWidget *window) {
 void Ui_LauncherWindow::setupStack(QWidget *window) {
     stackedWidget = named(new QStackedWidget(window), u"stackedWidget"_s);
     stackedWidget->setAutoFillBackground(true);
+    stackedWidget->setMinimumSize(1, 1);
     pageLauncher = named(new QWidget, u"pageLauncher"_s);
     pageLauncherLayout = named(new QVBoxLayout(pageLauncher), u"pageLauncherLayout"_s);
     pageLauncherLayout->setSpacing(0);

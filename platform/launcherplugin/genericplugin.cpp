@@ -8,7 +8,8 @@ GenericPlugin::~GenericPlugin() = default;
 QWidget *GenericPlugin::pluginWindow() {
     if (!createdWindow) {
         createdWindow = createWindow();
-        own(createdWindow.get());
+        if (createdWindow)
+            own(createdWindow.get());
     }
     return createdWindow;
 }

@@ -32,7 +32,8 @@ public:
     /// The plug-in's agent for Save and Load; null when it saves and loads nothing.
     AbstractKeeper *keeper() const { return currentKeeper; }
 
-    /// The plug-in's window, made by `createWindow()` at the first call.
+    /// The plug-in's window, made by `createWindow()` at the first call. Plug-ins override that one, not this: only
+    /// a window made there counts as created, and is taken out before the library is unmapped.
     virtual QWidget *pluginWindow();
     /// Makes the window. The launcher never calls this; the base makes none.
     virtual QWidget *createWindow();

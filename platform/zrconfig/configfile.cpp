@@ -2,6 +2,7 @@
 #include "configfile.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
@@ -19,60 +20,93 @@ namespace {
 
 constexpr qint64 largestStoreBytes = 1024 * 1024;
 
-/// Walks over the lines of a store and remembers the first thing that is not part of one.
+/// Walks over the lines of a store as QSettings does, and remembers the first thing that is not part of one. Where
+/// the two disagreed, a value would be lost without a word.
 class IniChecker {
 public:
-    explicit IniChecker(QByteArrayView text) : remaining(text) {}
+    explicit IniChecker(QByteArrayView text) : remaining(text) {
+        if (remaining.startsWith("\xef\xbb\xbf"))
+            remaining = remaining.sliced(3);
+    }
 
     QString firstDamage() {
-        while (!remaining.isEmpty()) {
+        while (skipToNextLine()) {
             const int startLine = currentLine;
-            const std::optional<QByteArray> line = nextLogicalLine();
+            const std::optional<Line> line = nextLine();
             if (!line)
                 return u"the quote opened in line %1 never ends"_s.arg(startLine);
-            if (line->contains('\0'))
+            if (line->text.contains('\0'))
                 return u"line %1 holds a NUL"_s.arg(startLine);
-            if (!isPartOfStore(line->trimmed()))
+            if (!isPartOfStore(*line))
                 return u"line %1 is neither a section nor a value"_s.arg(startLine);
         }
         return {};
     }
 
 private:
-    /// One line, continued while a quote is open or the line end is escaped; nothing when a quote stays open.
-    std::optional<QByteArray> nextLogicalLine() {
-        bool inQuotes = false;
+    struct Line {
+        QByteArrayView text;
         bool hasEquals = false;
+    };
+
+    static bool isSpace(char character) {
+        return character == ' ' || character == '\t' || character == '\n' || character == '\r' ||
+               character == '\v' || character == '\f';
+    }
+
+    void drop(qsizetype count) {
+        currentLine += static_cast<int>(remaining.first(count).count('\n'));
+        remaining = remaining.sliced(count);
+    }
+
+    /// Past white space and comments; false at the end. A comment may also follow a value in its line.
+    bool skipToNextLine() {
+        while (!remaining.isEmpty()) {
+            if (remaining[0] == ';')
+                drop(lengthOfPhysicalLine());
+            else if (isSpace(remaining[0]))
+                drop(1);
+            else
+                return true;
+        }
+        return false;
+    }
+
+    qsizetype lengthOfPhysicalLine() const {
+        qsizetype length = 0;
+        while (length < remaining.size() && remaining[length] != '\n' && remaining[length] != '\r')
+            ++length;
+        return length;
+    }
+
+    /// One line, continued while a quote is open or the line end is escaped; nothing when a quote stays open.
+    std::optional<Line> nextLine() {
+        Line line;
+        bool inQuotes = false;
         qsizetype end = 0;
         for (; end < remaining.size(); ++end) {
             const char character = remaining[end];
-            if (character == '\n') {
-                ++currentLine;
-                if (!inQuotes)
-                    break;
-            } else if (character == '\\') {
-                ++end;
-                if (end < remaining.size() && remaining[end] == '\n')
-                    ++currentLine;
-            } else if (character == '=') {
-                hasEquals = true;
-            } else if (character == '"' && hasEquals && !isComment(remaining)) {
+            if (character == '"')
                 inQuotes = !inQuotes;
-            }
+            else if (character == '\\')
+                ++end;
+            else if (!inQuotes && (character == '\n' || character == '\r' || character == ';'))
+                break;
+            else if (!inQuotes && character == '=')
+                line.hasEquals = true;
         }
         end = qMin(end, remaining.size());
-        const QByteArray line = remaining.first(end).toByteArray();
-        remaining = remaining.sliced(qMin(end + 1, remaining.size()));
+        line.text = remaining.first(end);
+        drop(end);
         if (inQuotes)
             return std::nullopt;
         return line;
     }
 
-    static bool isComment(QByteArrayView line) { return line.startsWith(';') || line.startsWith('#'); }
-
-    static bool isPartOfStore(QByteArrayView line) {
-        return line.isEmpty() || isComment(line) || (line.startsWith('[') && line.contains(']')) ||
-               line.contains('=');
+    /// QSettings passes over a line that begins with a hash sign and holds no value; people write comments so.
+    static bool isPartOfStore(const Line &line) {
+        return line.text.startsWith('[') ? line.text.contains(']')
+                                         : line.hasEquals || line.text.startsWith('#');
     }
 
     QByteArrayView remaining;
@@ -89,6 +123,10 @@ QString damageInFile(const QFileInfo &info) {
     if (!file.open(QIODevice::ReadOnly))
         return {};
     return damageIn(file.read(largestStoreBytes));
+}
+
+void tellUnreadable(const QString &file) {
+    std::fprintf(stderr, "The configuration %s cannot be read; the defaults are used.\n", qPrintable(file));
 }
 
 void setAside(const QString &file, const QString &damage) {
@@ -134,19 +172,40 @@ QString userStoreFile(const QString &application) {
     return QSettings(QSettings::NativeFormat, QSettings::UserScope, u"talvenor"_s, application).fileName();
 }
 
+QString systemStoreFile(const QString &application) {
+    return QSettings(QSettings::NativeFormat, QSettings::SystemScope, u"talvenor"_s, application).fileName();
+}
+
+void tellDamagedSystemStore(const QString &file) {
+    const QFileInfo info(file);
+    if (!info.exists() || isUnchangedSinceLastLook(info))
+        return;
+    const QString damage = damageInFile(info);
+    if (!damage.isEmpty())
+        std::fprintf(stderr, "The configuration %s is damaged (%s).\n", qPrintable(file), qPrintable(damage));
+}
+
 void setDamagedStoreAside(const QString &file) {
     const QFileInfo info(file);
     if (!info.exists() || isUnchangedSinceLastLook(info))
         return;
+    if (!info.isReadable()) {
+        tellUnreadable(file);
+        return;
+    }
     const QString damage = damageInFile(info);
     if (!damage.isEmpty())
         setAside(file, damage);
 }
 
 bool flushToDisk(const QString &file) {
-    // The store's own directory may be as new as the file: its name has to last too.
     const QString directory = QFileInfo(file).path();
-    const QString parent = QFileInfo(directory).path();
-    return flushDescriptor(file, O_RDONLY) && flushDescriptor(directory, O_RDONLY | O_DIRECTORY) &&
-           flushDescriptor(parent, O_RDONLY | O_DIRECTORY);
+    if (!flushDescriptor(file, O_RDONLY) || !flushDescriptor(directory, O_RDONLY | O_DIRECTORY))
+        return false;
+    // The directories above may be as new as the file: their names have to last too. One that we may not even read is
+    // not ours, and was there before.
+    QDir above(directory);
+    while (above.cdUp() && !above.isRoot() && flushDescriptor(above.path(), O_RDONLY | O_DIRECTORY)) {
+    }
+    return true;
 }

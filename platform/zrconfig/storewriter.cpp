@@ -47,7 +47,7 @@ QString unusedName() {
 /// Writes the values into a new file and reads them back under another name. Empty when they do not agree.
 QString writtenInFull(const QDir &directory, const Values &values) {
     const QString written = directory.filePath(unusedName());
-    const QString readBack = directory.filePath(unusedName());
+    QString readBack = directory.filePath(unusedName());
     if (!write(written, values) || !QFile::rename(written, readBack) || valuesIn(readBack) != values)
         return {};
     return readBack;
@@ -63,14 +63,22 @@ void makeNewerThan(const QString &newFile, const QString &oldFile) {
 
 bool putInPlace(const QString &newFile, const QString &file) {
     makeNewerThan(newFile, file);
+    if (QFile::exists(file))
+        QFile::setPermissions(newFile, QFile::permissions(file));
     return flushToDisk(newFile) && std::rename(QFile::encodeName(newFile), QFile::encodeName(file)) == 0 &&
            flushToDisk(file);
 }
 
 } // namespace
 
-bool storeValue(const QString &file, const QString &key, const QVariant &value) {
-    if (!QDir().mkpath(QFileInfo(file).path()))
+bool storeValue(const QString &name, const QString &key, const QVariant &value) {
+    if (!QDir().mkpath(QFileInfo(name).path()))
+        return false;
+    // What a link points to is replaced, not the link.
+    const QFileInfo info(name);
+    const QString file = info.exists() ? info.canonicalFilePath() : name;
+    // Its values would be lost.
+    if (info.exists() && !info.isReadable())
         return false;
     // The lock that QSettings takes for its own writing.
     QLockFile lock(file + ".lock"_L1);

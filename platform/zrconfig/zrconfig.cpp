@@ -14,17 +14,17 @@ namespace {
 
 /// The user's file, sound or put right: a damaged one has to be out of the way before QSettings reads it.
 QString soundStoreFile(const QString &application) {
-    const QString file = userStoreFile(application);
+    QString file = userStoreFile(application);
     setDamagedStoreAside(file);
+    tellDamagedSystemStore(systemStoreFile(application));
     return file;
 }
 
-/// Hand-written text with a comma in it reads as a list; it is still one text to us.
-QString textOf(const QVariant &value) {
-    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(", "_L1) : value.toString();
-}
-
 } // namespace
+
+QString ZrConfig::textOf(const QVariant &value) {
+    return value.typeId() == QMetaType::QStringList ? value.toStringList().join(u',') : value.toString();
+}
 
 ZrConfig::ZrConfig(const QString &application, const QString &group)
     : ZrConfig(application, group, QString()) {}

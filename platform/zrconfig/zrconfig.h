@@ -30,6 +30,10 @@ public:
     /// On a value handle: the value as text, empty when it is absent.
     QString string() const;
 
+    /// The text of a value that was read with QSettings. Hand-written text with a comma in it reads as a list there; to
+    /// us it is one text, but for blanks that stood beside the commas.
+    static QString textOf(const QVariant &value);
+
 private:
     QString applicationName;
     QString groupName;

@@ -15,7 +15,7 @@ namespace {
 constexpr char paletteProperty[] = "palette_id";
 constexpr qreal radius = 10;
 constexpr qreal focusRingWidth = 3;
-constexpr int smallestButtonHeight = 46;
+constexpr int smallestButtonHeight = 52;
 constexpr int buttonPadding = 16;
 
 bool isPressedOrChecked(const QStyleOption &option) {

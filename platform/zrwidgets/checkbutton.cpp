@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int buttonHeight = 48;
+constexpr int buttonHeight = 52;
 constexpr int usualWidth = 112;
 constexpr int smallestWidth = 52;
 constexpr int padding = 16;

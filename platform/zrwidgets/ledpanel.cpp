@@ -29,7 +29,7 @@ QFont fittingFont(const QFont &font, const QString &name, int width) {
         return font;
     QFont tight = font;
     constexpr int tightest = 60;
-    tight.setPixelSize(FontSizes::Small - 1);
+    tight.setPixelSize(FontSizes::Small);
     tight.setStretch(qMax(tightest, 100 * width / needed));
     return tight;
 }

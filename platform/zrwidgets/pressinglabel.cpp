@@ -27,7 +27,7 @@ PressingLabel::PressingLabel(QWidget *parent, bool keepsPicture)
 }
 
 QPixmap PressingLabel::downPixmap() const {
-    const QPixmap picture = pixmap();
+    QPixmap picture = pixmap();
     if (picture.isNull() || pictureIsKept)
         return picture;
     QPixmap down(picture.size());

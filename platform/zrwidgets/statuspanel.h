@@ -9,7 +9,7 @@ class StatusPanel : public PopupPanel {
     Q_OBJECT
 
 public:
-    /// `minimumWidth` is that of the panel in pixels, its shadow left out.
+    /// `minimumWidth` is that of the widget in pixels, its shadow included.
     StatusPanel(QWidget *parent, int minimumWidth);
 
     /// The picture at the head; a null one takes it away.

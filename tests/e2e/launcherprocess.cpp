@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-const QString program = QStringLiteral(E2E_TREE "/bin/zr-launcher");
 constexpr int longestStartMs = 20'000;
 
 bool isProbeThere() {
@@ -19,7 +18,9 @@ bool isProbeThere() {
 
 } // namespace
 
-LauncherProcess::LauncherProcess() : environment(QProcessEnvironment::systemEnvironment()) {}
+LauncherProcess::LauncherProcess()
+    : program(QStringLiteral(E2E_TREE "/bin/zr-launcher")),
+      environment(QProcessEnvironment::systemEnvironment()) {}
 
 LauncherProcess::~LauncherProcess() {
     if (process.state() == QProcess::NotRunning)

@@ -13,6 +13,8 @@ public:
     /// Ends the process if it still runs.
     ~LauncherProcess();
 
+    /// What is started; the installed launcher unless set.
+    QString program;
     /// Environment for the next start; it begins as that of the test.
     QProcessEnvironment environment;
 

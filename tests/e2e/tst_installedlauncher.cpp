@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QTcpServer>
+#include <QTcpSocket>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -26,6 +28,8 @@ private slots:
     void damagedConfigurationDoesNotStopTheStart();
     void badPluginsDoNotStopTheStart();
     void runsOnAnXServer();
+    void runsAsAVncServer();
+    void missingCatalogueIsToldAndTextsAreEnglish();
 
 private:
     static void addProbe(TestConfig &config, const QString &otherGroups);
@@ -174,6 +178,30 @@ void InstalledLauncherTest::runsOnAnXServer() {
     }
     server.terminate();
     server.waitForFinished();
+}
+
+void InstalledLauncherTest::runsAsAVncServer() {
+    addProbe(config, u""_s);
+    QTcpServer portFinder;
+    QVERIFY(portFinder.listen(QHostAddress::LocalHost));
+    const quint16 port = portFinder.serverPort();
+    portFinder.close();
+    LauncherProcess launcher;
+    QVERIFY2(launcher.start({u"-platform"_s, u"vnc:size=800x600:port=%1"_s.arg(port)}), launcher.errors());
+    QCOMPARE(launcher.windowSize(), QStringList({u"800"_s, u"600"_s}));
+    QTcpSocket viewer;
+    viewer.connectToHost(QHostAddress::LocalHost, port);
+    QVERIFY(viewer.waitForReadyRead());
+    QVERIFY(viewer.readAll().startsWith("RFB "));
+}
+
+void InstalledLauncherTest::missingCatalogueIsToldAndTextsAreEnglish() {
+    addProbe(config, u""_s);
+    LauncherProcess launcher;
+    launcher.program = QStringLiteral(E2E_ENGLISH_LAUNCHER);
+    QVERIFY2(launcher.start(), launcher.errors());
+    QTRY_VERIFY(launcher.errors().contains("Loading translator... Failed\n"));
+    QCOMPARE(launcher.selectorTexts(), QStringList{u"Settings"_s});
 }
 
 QTEST_GUILESS_MAIN(InstalledLauncherTest)

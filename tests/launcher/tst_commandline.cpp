@@ -26,7 +26,8 @@ void CommandLineTest::leavesOutWhatTheToolkitTakes_data() {
     QTest::newRow("only the name") << none << none;
     QTest::newRow("platform with its value") << none + QStringList{u"-platform"_s, u"offscreen"_s} << none;
     QTest::newRow("two dashes") << none + QStringList{u"--platform"_s, u"linuxfb:fb=/dev/fb0"_s} << none;
-    QTest::newRow("value is missing") << none + QStringList{u"-platform"_s} << none;
+    QTest::newRow("value is missing")
+        << none + QStringList{u"-platform"_s} << none + QStringList{u"-platform"_s};
     QTest::newRow("value behind an equals sign") << none + QStringList{u"-style=fusion"_s} << none;
     QTest::newRow("no value") << none + QStringList{u"-reverse"_s, u"-h"_s} << none + QStringList{u"-h"_s};
     QTest::newRow("bare word that looks like one")

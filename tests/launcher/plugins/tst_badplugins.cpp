@@ -5,6 +5,7 @@
 #include "launcherfixture.h"
 
 #include <QRegularExpression>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <elf.h>
@@ -34,7 +35,9 @@ class BadPluginsTest : public QObject {
 private slots:
     void badLibraryIsToldAndTheOthersLoad_data();
     void badLibraryIsToldAndTheOthersLoad();
+    void iconOutsideThePageIsToldAndShown_data();
     void iconOutsideThePageIsToldAndShown();
+    void getterThatThrowsAtTheEndTakesTheOthersOut();
     void replacedIconIsTold();
 
 private:
@@ -113,16 +116,42 @@ void BadPluginsTest::badLibraryIsToldAndTheOthersLoad() {
     QVERIFY(!window.grab().isNull());
 }
 
+void BadPluginsTest::iconOutsideThePageIsToldAndShown_data() {
+    QTest::addColumn<QVariant>("row");
+    QTest::newRow("far outside") << QVariant(4'000'000'000U);
+    QTest::newRow("nought") << QVariant(0);
+    QTest::newRow("absent") << QVariant();
+    QTest::newRow("no number") << QVariant(u"first"_s);
+}
+
 void BadPluginsTest::iconOutsideThePageIsToldAndShown() {
+    QFETCH(QVariant, row);
     config = TestConfig();
     configurePlugins(config, {u"alpha"_s});
-    config.set(u"alpha/row"_s, 4'000'000'000U);
+    QSettings(u"talvenor"_s, u"zr-launcher"_s).remove(u"alpha/row"_s);
+    if (row.isValid())
+        config.set(u"alpha/row"_s, row);
     ErrorStream errors;
     LauncherWindow window;
     window.show();
     QCOMPARE(errors.take(), "Plugin %1 names no cell of the page; placed at row 1, column 1\n"_ba.replace(
                                 "%1", testPluginFile(u"alpha"_s).toLocal8Bit()));
     QVERIFY(find(window, "icon alpha")->isVisible());
+}
+
+void BadPluginsTest::getterThatThrowsAtTheEndTakesTheOthersOut() {
+    config = TestConfig();
+    configurePlugins(config, {u"throwslater"_s});
+    ErrorStream errors;
+    {
+        LauncherWindow window;
+        window.show();
+        QVERIFY(find(window, "icon that stays too long")->isVisible());
+        QCOMPARE(errors.take(), QByteArray());
+    }
+    QCOMPARE(errors.take(), "Plugin %1 failed: no status any more\n"_ba.replace(
+                                "%1", testPluginFile(u"throwslater"_s).toLocal8Bit()));
+    QVERIFY(!isMapped(u"throwslater"_s));
 }
 
 void BadPluginsTest::replacedIconIsTold() {

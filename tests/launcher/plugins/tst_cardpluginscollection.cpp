@@ -31,6 +31,7 @@ private slots:
     void ledsOfAPageThatIsLeftAreNotShown();
     void pressOnTheLedsResetsTheCard();
     void cardThatRefusesTheNextPageLeavesNothingBehind();
+    void emptyPageIsShownWhenTheOnlyOtherPageRefuses();
 
 private:
     void open(const QString &persistent) {
@@ -200,6 +201,23 @@ void CardPluginsCollectionTest::cardThatRefusesTheNextPageLeavesNothingBehind() 
     QVERIFY(shown() != "GbE"_L1);
     remove(*window, u"e1"_s, 1);
     QCOMPARE(labels(), QStringList{QString()});
+}
+
+void CardPluginsCollectionTest::emptyPageIsShownWhenTheOnlyOtherPageRefuses() {
+    open(u"sa"_s);
+    FakeCard card;
+    card.setReply("options", "ZR-SIG1");
+    card.setReply("status alarms", "LOS");
+    insert(*window, u"e1"_s, 1, card);
+    QCOMPARE(shown(), u"PCM"_s);
+    card.setReply("operation sa", "error busy");
+    remove(*window, u"e1"_s, 1);
+    QCOMPARE(shown(), QString());
+    QVERIFY(ledPanelOf(*window)->names().isEmpty());
+    QCOMPARE(labels(), QStringList{u"Signaling"_s});
+    // Without a card the page can be entered again.
+    enter(u"Signaling"_s);
+    QCOMPARE(shown(), u"Signaling"_s);
 }
 
 QTEST_MAIN(CardPluginsCollectionTest)

@@ -35,6 +35,7 @@ private slots:
     void settingsNamesThatDenoteNothingAreIgnored_data();
     void settingsNamesThatDenoteNothingAreIgnored();
     void unloadingUnmapsTheLibraries();
+    void unloadingGoesInLoadingOrder();
     void unloadingTakesEveryWidgetOutFirst();
     void unloadingNeverCreatesTheWindow();
     void collectionUnloadsWhenItEnds();
@@ -231,6 +232,17 @@ void PluginsCollectionTest::unloadingUnmapsTheLibraries() {
     QVERIFY(!isMapped(u"alpha"_s));
     QVERIFY(!isMapped(u"old"_s));
     QVERIFY(!isMapped(u"nowidgets"_s));
+    window->rmCollectionPages({collection.get()});
+}
+
+void PluginsCollectionTest::unloadingGoesInLoadingOrder() {
+    configureE1({u"beta"_s, u"alpha"_s, u"gamma"_s});
+    const auto collection = loaded();
+    QStringList ended;
+    for (const QString &name : {u"alpha"_s, u"beta"_s, u"gamma"_s})
+        connect(pluginRoot(name), &QObject::destroyed, this, [&ended, name] { ended.append(name); });
+    collection->unload();
+    QCOMPARE(ended, QStringList({u"beta"_s, u"alpha"_s, u"gamma"_s}));
     window->rmCollectionPages({collection.get()});
 }
 

@@ -18,6 +18,7 @@
 #define ODD_ROOT_THROWS 6
 #define ODD_UNRESOLVED_SYMBOL 7
 #define ODD_WRONG_KIND 8
+#define ODD_THROWS_LATER 9
 
 #if ODD_PLUGIN == ODD_NO_WIDGETS
 /// Has neither icon nor status widget, and no window either.
@@ -97,5 +98,25 @@ public:
 class OddPlugin : public QObject {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "example.Other/1.0")
+};
+#elif ODD_PLUGIN == ODD_THROWS_LATER
+/// Its status widget can be had once; its icon lives in the library's own memory.
+class OddPlugin : public GenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID GenericPlugin_iid)
+
+public:
+    OddPlugin() { icon.setObjectName(QStringLiteral("icon that stays too long")); }
+    QWidget *iconWidget() override { return &icon; }
+    QWidget *statusWidget() override {
+        if (wasAsked)
+            throw std::runtime_error("no status any more");
+        wasAsked = true;
+        return nullptr;
+    }
+
+private:
+    QWidget icon;
+    bool wasAsked = false;
 };
 #endif

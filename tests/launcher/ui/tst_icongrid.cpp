@@ -60,7 +60,7 @@ void IconGridTest::iconTakesItsCell() {
     const IconGrid::Placement placement = IconGrid::place(grid, icon, 2, 1);
     QCOMPARE(at(2, 1), icon);
     QVERIFY(!placement.wasMoved);
-    QVERIFY(!placement.replacedIcon);
+    QVERIFY(placement.replacedIcons.isEmpty());
     QCOMPARE(grid->count(), 10);
 }
 
@@ -127,7 +127,7 @@ void IconGridTest::laterIconTakesTheCellAndHidesTheEarlier() {
     page->show();
     QVERIFY(earlier->isVisible());
     const IconGrid::Placement placement = IconGrid::place(grid, later, 0, 0);
-    QCOMPARE(placement.replacedIcon, earlier);
+    QCOMPARE(placement.replacedIcons, QList<QWidget *>{earlier});
     QCOMPARE(at(0, 0), later);
     QVERIFY(!earlier->isVisible());
     QCOMPARE(grid->indexOf(earlier), -1);

@@ -10,6 +10,7 @@
 #include <plainline.h>
 #include <popuplabel.h>
 #include <statuspanel.h>
+#include <timebutton.h>
 
 #include <QButtonGroup>
 #include <QGridLayout>
@@ -67,12 +68,15 @@ private slots:
     void removingTheCurrentCollectionShowsTheFirstRemaining();
     void removingAnotherCollectionLeavesTheScreen();
     void persistentCollectionsAreNotRemoved();
-    void removingTheLastCollectionShowsAnEmptyPage();
+    void persistentCollectionTakesTheScreenWhenTheOthersAreGone();
     void ledNamesReplaceEachOther();
     void tallIconTakesThePlacesOfThreePlaceholders();
     void infoPanelOpensOnlyWhenItHoldsSomething();
     void prefixOfMeasurementTitlesIsTheLabel();
     void longTitlesDoNotWidenTheWindow();
+    void longTitleLeavesBackAndClockAlone();
+    void windowKeepsTheScreensSizeWhateverIsShown_data();
+    void windowKeepsTheScreensSizeWhateverIsShown();
 
 private:
     QString caption() const { return window->findChild<LauncherHeader *>()->text(); }
@@ -256,15 +260,17 @@ void LauncherWindowTest::pressOnTheLedsResetsThoseOfTheCurrentCollection() {
 void LauncherWindowTest::removingTheCurrentCollectionShowsTheFirstRemaining() {
     SpyCollection pcm(u"e1"_s);
     SpyCollection otdr(u"otdr"_s);
-    window->newCollectionPage(&pcm);
-    window->newCollectionPage(&otdr);
+    SpyCollection gbe(u"gbe"_s);
+    for (SpyCollection *const collection : {&pcm, &gbe, &otdr})
+        window->newCollectionPage(collection);
     window->rmCollectionPages({&otdr});
     QVERIFY(!selector(u"OTDR"_s));
-    // The first remaining one is the one that lies lowest in memory.
-    const QString shown = caption();
-    QVERIFY(shown == "PCM"_L1 || shown == "Settings"_L1);
-    QVERIFY(selector(shown)->isChecked());
-    window->rmCollectionPages({&pcm});
+    // The one that lies lowest in memory; the instrument's own may lie lower than both.
+    const bool pcmIsFirst = std::less<const PluginsCollection *>()(&pcm, &gbe);
+    if (caption() != "Settings"_L1)
+        QCOMPARE(caption(), pcmIsFirst ? u"PCM"_s : u"GbE"_s);
+    QVERIFY(selector(caption())->isChecked());
+    window->rmCollectionPages({&pcm, &gbe});
     QCOMPARE(caption(), u"Settings"_s);
 }
 
@@ -289,17 +295,14 @@ void LauncherWindowTest::persistentCollectionsAreNotRemoved() {
     window.reset();
 }
 
-void LauncherWindowTest::removingTheLastCollectionShowsAnEmptyPage() {
+void LauncherWindowTest::persistentCollectionTakesTheScreenWhenTheOthersAreGone() {
     config.setPersistent(u"e1"_s);
     window = std::make_unique<LauncherWindow>();
     SpyCollection otdr(u"otdr"_s);
     window->newCollectionPage(&otdr);
-    auto *const leds = window->findChild<LedPanel *>();
-    window->setupLeds({u"LOS"_s});
-    QVERIFY(leds);
+    QCOMPARE(caption(), u"OTDR"_s);
     window->rmCollectionPages({&otdr});
-    // The persistent one remains, so there is still something to show.
-    QVERIFY(currentPage()->layout());
+    QCOMPARE(caption(), u"PCM"_s);
 }
 
 void LauncherWindowTest::ledNamesReplaceEachOther() {
@@ -357,6 +360,51 @@ void LauncherWindowTest::longTitlesDoNotWidenTheWindow() {
     window->setCaption(QString(200, u'W'));
     QCOMPARE(window->size(), QSize(800, 480));
     QVERIFY(window->minimumSizeHint().width() <= 800);
+}
+
+void LauncherWindowTest::longTitleLeavesBackAndClockAlone() {
+    window->show();
+    auto *const header = window->findChild<LauncherHeader *>();
+    header->setBackButtonText(u"PCM"_s);
+    QCoreApplication::processEvents();
+    const auto clock = header->findChild<TimeButton *>();
+    const auto pictureOf = [header](const QWidget *part) { return header->grab(part->geometry()).toImage(); };
+    header->setText(QString());
+    const QImage back = pictureOf(header->backButton());
+    const QImage time = pictureOf(clock);
+    const QImage before = header->grab().toImage();
+    header->setText(QString(200, u'W'));
+    QVERIFY(header->grab().toImage() != before);
+    QCOMPARE(pictureOf(header->backButton()), back);
+    QCOMPARE(pictureOf(clock), time);
+    header->setBackButtonText(QString(200, u'W'));
+    QCoreApplication::processEvents();
+    QVERIFY(header->backButton()->width() <= 300);
+}
+
+void LauncherWindowTest::windowKeepsTheScreensSizeWhateverIsShown_data() {
+    QTest::addColumn<QSize>("wanted");
+    QTest::addColumn<int>("row");
+    QTest::newRow("wide icon") << QSize(4000, 50) << 0;
+    QTest::newRow("high icon") << QSize(50, 4000) << 0;
+    QTest::newRow("icon in the tenth row") << QSize(50, 50) << 9;
+}
+
+void LauncherWindowTest::windowKeepsTheScreensSizeWhateverIsShown() {
+    QFETCH(QSize, wanted);
+    QFETCH(int, row);
+    window->show();
+    SpyCollection pcm(u"e1"_s);
+    window->newCollectionPage(&pcm);
+    QWidget icon;
+    icon.setMinimumSize(wanted);
+    window->addIcon(&pcm, &icon, row, 0);
+    QCoreApplication::processEvents();
+    QCOMPARE(window->size(), QSize(800, 480));
+    QVERIFY(selector(u"PCM"_s)->geometry().bottom() < 480);
+    QCOMPARE(window->findChild<LauncherHeader *>()->width(), 800);
+    window->removeIcon(&pcm, &icon);
+    window->rmCollectionPages({&pcm});
 }
 
 QTEST_MAIN(LauncherWindowTest)

@@ -38,6 +38,8 @@ private slots:
     void settingsOpenTheOnlySettingsPlugin();
     void backFromSettingsReturnsToTheCaller();
     void secondPressOnSettingsKeepsTheFirstCaller();
+    void newCollectionForgetsTheCaller();
+    void windowThatDeletesItselfLeadsHome();
     void homeForgetsTheCaller();
     void settingsLabelIsShownOnlyWhereItLeadsSomewhere();
     void captionFollowsOnlyTheShownWindow();
@@ -185,6 +187,29 @@ void NavigationTest::secondPressOnSettingsKeepsTheFirstCaller() {
     QCOMPARE(shownName(), u"window gamma"_s);
     back();
     QCOMPARE(shownName(), u"window alpha"_s);
+}
+
+void NavigationTest::newCollectionForgetsTheCaller() {
+    clickIcon(*window, "icon alpha");
+    pressSettings();
+    PluginsCollection pcm(u"e1"_s, false);
+    window->newCollectionPage(&pcm);
+    window->rmCollectionPages({&pcm});
+    clickIcon(*window, "icon gamma");
+    QVERIFY(find(*window, "labelSettings")->isHidden());
+    back();
+    QCOMPARE(shownName(), u"pageLauncher"_s);
+}
+
+void NavigationTest::windowThatDeletesItselfLeadsHome() {
+    clickIcon(*window, "icon beta");
+    window->goHome();
+    clickIcon(*window, "icon alpha");
+    delete shown();
+    QCOMPARE(shownName(), u"pageLauncher"_s);
+    QVERIFY(header()->backButton()->isHidden());
+    QVERIFY(find(*window, "labelReport")->isHidden());
+    QCOMPARE(header()->text(), u"Settings"_s);
 }
 
 void NavigationTest::homeForgetsTheCaller() {

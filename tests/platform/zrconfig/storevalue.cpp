@@ -5,8 +5,18 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <grp.h>
 #include <sys/resource.h>
 #include <unistd.h>
+
+namespace {
+
+/// The groups have to go too: they open what the user may not.
+bool become(uid_t user) {
+    return ::setgroups(0, nullptr) == 0 && ::setgid(user) == 0 && ::setuid(user) == 0;
+}
+
+} // namespace
 
 int main(int argc, char *argv[]) {
     if (argc < 4)
@@ -18,7 +28,7 @@ int main(int argc, char *argv[]) {
         if (::setrlimit(RLIMIT_FSIZE, &limit) != 0)
             return EXIT_FAILURE;
     }
-    if (argc > 5 && ::setuid(static_cast<uid_t>(std::atoi(argv[5]))) != 0)
+    if (argc > 5 && std::atoi(argv[5]) > 0 && !become(static_cast<uid_t>(std::atoi(argv[5]))))
         return EXIT_FAILURE;
     ZrConfig(QStringLiteral("zr-launcher"),
              QString::fromLocal8Bit(argv[1]))[QString::fromLocal8Bit(argv[2])] =

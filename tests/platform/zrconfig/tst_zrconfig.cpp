@@ -73,6 +73,12 @@ private slots:
     void twoWritesInOneMillisecondAreBothSeen();
     void fullDiskIsToldAndLosesNothing();
     void readOnlyDirectoryIsToldAndLosesNothing();
+    void unreadableFileIsToldAndLosesNothing();
+    void linkStaysALink();
+    void damagedSystemWideStoreIsTold();
+
+private:
+    static int userWithoutRights();
 };
 
 void ZrConfigTest::init() {
@@ -126,7 +132,7 @@ void ZrConfigTest::blanksInAListAreKept() {
 
 void ZrConfigTest::textWithACommaStaysOneText() {
     write(storeFile(), "[paths]\nmain=a, b\n");
-    QCOMPARE(ZrConfig(application, u"paths"_s, u"main"_s).string(), u"a, b"_s);
+    QCOMPARE(ZrConfig(application, u"paths"_s, u"main"_s).string(), u"a,b"_s);
 }
 
 void ZrConfigTest::userFallsBackOnTheSystemWideStore() {
@@ -202,21 +208,59 @@ void ZrConfigTest::readOnlyDirectoryIsToldAndLosesNothing() {
     write(storeFile(), before);
     QVERIFY(QFile(directory())
                 .setPermissions(QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
-    // Root may write anywhere, so it hands over to a user who may not; the way there has to be open to that one.
-    int uid = 0;
-    if (::geteuid() == 0) {
-        uid = 65534;
-        QDir way(directory());
-        while (way.cdUp() && !way.isRoot() && way.path() != QDir::tempPath()) {
-            const auto open = QFile::ReadOther | QFile::ExeOther;
-            QFile(way.path()).setPermissions(QFile(way.path()).permissions() | open);
-        }
-    }
-    const Outcome outcome = storeElsewhere(u"new"_s, 0, uid);
+    const Outcome outcome = storeElsewhere(u"new"_s, 0, userWithoutRights());
     QVERIFY(QFile(directory()).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     QVERIFY(outcome.wasKilled);
     QVERIFY2(outcome.errors.contains("paths/main cannot be stored"), outcome.errors);
     QCOMPARE(read(storeFile()), before);
+}
+
+/// Root may read and write anywhere, so it hands over to a user who may not; the way there has to be open to that one.
+int ZrConfigTest::userWithoutRights() {
+    if (::geteuid() != 0)
+        return 0;
+    QDir way(directory());
+    while (way.cdUp() && !way.isRoot() && way.path() != QDir::tempPath()) {
+        const auto open = QFile::ReadOther | QFile::ExeOther;
+        QFile(way.path()).setPermissions(QFile(way.path()).permissions() | open);
+    }
+    return 65534;
+}
+
+void ZrConfigTest::unreadableFileIsToldAndLosesNothing() {
+    const QByteArray before = "[paths]\nmain=reports\n";
+    write(storeFile(), before);
+    const int user = userWithoutRights();
+    const auto everything = QFile::Permissions(0x7777);
+    QVERIFY(QFile(directory()).setPermissions(everything));
+    QVERIFY(QFile(storeFile()).setPermissions({}));
+    const Outcome outcome = storeElsewhere(u"new"_s, 0, user);
+    QVERIFY(QFile(storeFile()).setPermissions(QFile::ReadOwner | QFile::WriteOwner));
+    QVERIFY2(outcome.errors.contains("cannot be read; the defaults are used.\n"), outcome.errors);
+    QVERIFY2(outcome.errors.contains("paths/main cannot be stored"), outcome.errors);
+    QCOMPARE(read(storeFile()), before);
+}
+
+void ZrConfigTest::linkStaysALink() {
+    const QString target = directory() + "/elsewhere.conf"_L1;
+    write(target, "[paths]\nother=kept\n");
+    QVERIFY(QFile(target).setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup |
+                                         QFile::WriteGroup));
+    QVERIFY(QFile::link(target, storeFile()));
+    ZrConfig(application, u"paths"_s, u"main"_s) = u"reports"_s;
+    QVERIFY(QFileInfo(storeFile()).isSymLink());
+    QVERIFY2(read(target).contains("main=reports"), read(target));
+    QVERIFY2(read(target).contains("other=kept"), read(target));
+    QVERIFY(QFile(target).permissions() & QFile::WriteGroup);
+}
+
+void ZrConfigTest::damagedSystemWideStoreIsTold() {
+    const QString systemFile = qEnvironmentVariable("XDG_CONFIG_DIRS") + "/talvenor/zr-launcher.conf"_L1;
+    write(systemFile, QByteArray(100, '\0'));
+    const Outcome outcome = storeElsewhere(u"new"_s);
+    QCOMPARE(outcome.errors,
+             "The configuration " + systemFile.toLocal8Bit() + " is damaged (line 1 holds a NUL).\n");
+    QVERIFY(QFile::remove(systemFile));
 }
 
 QTEST_GUILESS_MAIN(ZrConfigTest)

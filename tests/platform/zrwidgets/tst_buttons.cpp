@@ -82,7 +82,7 @@ void ButtonsTest::tileAnswersTouchAndKeys() {
 
 void ButtonsTest::checkedButtonIsAccent() {
     CheckButton button(u"PCM"_s);
-    button.resize(112, 48);
+    button.resize(112, 52);
     QCOMPARE(button.grab().toImage().pixelColor(8, 24), button.palette().color(QPalette::Base));
     button.setChecked(true);
     QCOMPARE(button.grab().toImage().pixelColor(8, 24), button.palette().color(QPalette::Highlight));
@@ -98,7 +98,7 @@ void ButtonsTest::buttonIsAsWideAsItsTextAndGivesWay() {
 
 void ButtonsTest::twoLinesFitIntoOneButton() {
     CheckButton button(u"Network\nTools"_s);
-    QCOMPARE(button.sizeHint().height(), 48);
+    QCOMPARE(button.sizeHint().height(), 52);
     button.resize(button.sizeHint());
     const QImage picture = button.grab().toImage();
     QSet<int> inkedRows;
