@@ -147,7 +147,7 @@ QString cardCommandHelp() {
   hang CARD                  neither answers nor updates; resume CARD answers late
   close CARD                 hangs up and takes no calls; open CARD takes them again
   babble CARD [off]          noise on both lines
-  storm CARD NUMBER          that many updates a second; 0 ends it
+  storm CARD NUMBER          that many updates a second, up to 1000; 0 ends it
   reply CARD whole | bytes | cut | endless
                              how replies are sent: whole, in single bytes, cut off, without end
 )"_s;

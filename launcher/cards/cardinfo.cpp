@@ -24,6 +24,7 @@ QString latin1(const QByteArray &piece) {
 } // namespace
 
 int serialNumber(QByteArrayView text) {
+    text = text.first(qstrnlen(text.data(), static_cast<size_t>(text.size())));
     if (text.startsWith('+') && !text.startsWith("+-"))
         text = text.sliced(1);
     int number = 0;

@@ -17,7 +17,8 @@ struct CardInfo {
     bool operator==(const CardInfo &) const = default;
 };
 
-/// A whole number in base 10, with or without a sign; 0 for everything else, a blank before or after it included.
+/// A whole number in base 10, with or without a sign; 0 for everything else, a blank before or after it included. As
+/// every text of an info file it ends at a NUL.
 int serialNumber(QByteArrayView text);
 
 /// The card of an info file whose contents were cut at line feeds; nothing when there are fewer than four pieces. Texts

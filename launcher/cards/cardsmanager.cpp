@@ -36,9 +36,11 @@ void CardsManager::subscribe() {
         std::cerr << "No connection to the D-Bus session bus.\n" << std::flush;
         return;
     }
-    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"inserted"_s, this,
+    // With the signatures: without, arguments of some other types reach the slot's conversion, which aborts.
+    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"inserted"_s, QStringList(), u"siss"_s, this,
                 SLOT(cardInserted(QString, int, QString, QString)));
-    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"removed"_s, this, SLOT(cardRemoved(QString, int)));
+    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"removed"_s, QStringList(), u"si"_s, this,
+                SLOT(cardRemoved(QString, int)));
 }
 
 void CardsManager::scan() {
@@ -100,10 +102,14 @@ void CardsManager::cardInserted(const QString &name, int sn, const QString &card
 
 void CardsManager::refuse(const QString &name) {
     const QString text = tr("Sorry, card type %1 is unvalid").arg(name);
+    warning()->show(text, QString());
+    qDebug() << text;
+}
+
+WarningWindow *CardsManager::warning() {
     if (!warningWindow)
         warningWindow = new WarningWindow(LauncherWindow::instance());
-    warningWindow->show(text, QString());
-    qDebug() << text;
+    return warningWindow;
 }
 
 void CardsManager::cardRemoved(const QString &name, int sn) {

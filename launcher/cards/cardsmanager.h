@@ -31,6 +31,9 @@ public:
         return persistentCollections.value(name);
     }
 
+    /// The window for unknown types, and for what a card that is gone left unread.
+    WarningWindow *warning();
+
 signals:
     /// A card was created.
     void cardIsInserted(QString name, int sn, QString cardiface, QString poller);

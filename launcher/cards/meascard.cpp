@@ -37,13 +37,13 @@ MeasCard::MeasCard(const QString &name, int serial, const QString &iface, const 
 
 MeasCard::~MeasCard() {
     LauncherWindow::instance()->rmCardPage(this);
-    if (freeCollections()) {
-        // Plug-ins of the collection that stays may hold the controller: it is kept for the next card of this type.
+    if (freeCollections() || controller->outlivesCards()) {
+        // Plug-ins of a collection that stays may hold the controller: it is kept for the next card of this type.
         controller->freeCard();
         static_cast<void>(controller.release());
     }
     if (warningWindow)
-        warningWindow->retire();
+        warningWindow->handOverTo(cardsManager->warning());
 }
 
 /// Returns whether one of the collections stays.
@@ -51,7 +51,9 @@ bool MeasCard::freeCollections() {
     bool onePersists = false;
     for (CardPluginsCollection *const collection : std::as_const(cardCollections)) {
         if (collection->persistent()) {
-            collection->freeMeasCard();
+            // Another card of this type may have been bound since.
+            if (collection->measCard() == this)
+                collection->freeMeasCard();
             onePersists = true;
         } else {
             delete collection;

@@ -49,7 +49,7 @@ public:
     void initPlugins(const QString &type);
     void deinitPlugins();
 
-    /// The window for the card's errors. It outlives the card while there is something to read in it.
+    /// The window for the card's errors. What is unread when the card goes is shown in the manager's.
     WarningWindow *warning();
 
 signals:

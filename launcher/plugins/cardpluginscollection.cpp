@@ -9,6 +9,8 @@ CardPluginsCollection::CardPluginsCollection(const QString &name, MeasCard *meas
     : PluginsCollection(name, persistent, parent), card(measCard) {}
 
 void CardPluginsCollection::setMeasCard(MeasCard *measCard) {
+    if (card != measCard)
+        disconnectLeds();
     card = measCard;
     connectLeds();
 }

@@ -16,7 +16,9 @@ public:
     /// `card` may be null; it belongs to somebody else.
     CardPluginsCollection(const QString &name, MeasCard *card, bool persistent, QObject *parent = nullptr);
 
-    /// Binds the card and shows its LEDs at once.
+    /// The card that is bound, or null.
+    MeasCard *measCard() const { return card; }
+    /// Binds the card and shows its LEDs at once. Those of a card that was bound before are shown no longer.
     void setMeasCard(MeasCard *card);
     /// Forgets the card. What is connected ends with the card itself.
     void freeMeasCard();

@@ -162,6 +162,7 @@ DataProxy *CardController::dataProxy(const QString &name, MeasProcessor *process
 }
 
 void CardController::freeCard() {
+    wasFreed = true;
     commands.reset();
     updates.reset();
     disconnect(this, SIGNAL(showErrorMessage(QString, QString)), nullptr, nullptr);

@@ -60,6 +60,8 @@ public:
     /// Lets go of the card: its lines are closed, nobody hears of its errors any more, its data is forgotten. The
     /// controller stays, with its proxies.
     void freeCard();
+    /// Whether it was let go of once: somebody may keep its pointer, so it is to be let go of again, not deleted.
+    bool outlivesCards() const { return wasFreed; }
 
 signals:
     /// What went wrong, and with which card and command, in the user's language. The same message is not repeated within
@@ -80,6 +82,7 @@ private:
     QString cardSerial;
     std::unique_ptr<CommandChannel> commands;
     std::unique_ptr<UpdateChannel> updates;
+    bool wasFreed = false;
     QString lastError;
     std::chrono::steady_clock::time_point lastErrorTime;
 };

@@ -7,11 +7,9 @@
 #include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
-using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto leaveAloneTime = 10s;
 // More than any reply: who sends this much without being asked is not talking to us.
 constexpr qint64 mostUnaskedBytes = 1024 * 1024;
 
@@ -123,11 +121,12 @@ CommandChannel::Outcome CommandChannel::fail(const QString &reason) {
 }
 
 void CommandChannel::close() {
-    mustRepeatNumber |= owedReply && line && line->outlivesClosing();
     owedReply.reset();
     unaskedBytes = 0;
-    if (line)
-        line->close();
+    if (!line)
+        return;
+    mustRepeatNumber |= line->outlivesClosing();
+    line->close();
 }
 
 /// What came before the command, and the event loop has not come round to.

@@ -37,6 +37,8 @@ public:
 
     Outcome send(const QString &command);
     void setTimeLimit(std::chrono::milliseconds limit) { timeLimit = limit; }
+    /// How long a card that missed a time limit is left alone; ten seconds unless set.
+    void setLeaveAloneTime(std::chrono::milliseconds time) { leaveAloneTime = time; }
     /// Closes the line and forgets what the card owes.
     void close();
 
@@ -54,6 +56,7 @@ private:
     QString addressText;
     std::unique_ptr<CardLine> line;
     std::chrono::milliseconds timeLimit = usualTimeLimit;
+    std::chrono::milliseconds leaveAloneTime{10'000};
     bool isWaiting = false;
     /// What has arrived of a reply that missed its time limit; null when none is owed.
     std::unique_ptr<ReplyReader> owedReply;

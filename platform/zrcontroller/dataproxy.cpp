@@ -24,11 +24,13 @@ void DataProxy::take(QVariantMap data) {
 }
 
 void DataProxy::doubt() {
-    if (currentData.isEmpty())
-        return;
-    for (QVariant &value : currentData)
+    bool isChanged = false;
+    for (QVariant &value : currentData) {
+        isChanged |= value != QString();
         value = QString();
-    tellSoon();
+    }
+    if (isChanged)
+        tellSoon();
 }
 
 void DataProxy::forget() {

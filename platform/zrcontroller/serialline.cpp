@@ -7,7 +7,8 @@ SerialLine::SerialLine(const QString &deviceFile, int baudRate) {
     port.setReadBufferSize(mostBytesWaiting);
     // The device is gone: unplugged, or its other end was closed.
     connect(&port, &QSerialPort::errorOccurred, this, [this](QSerialPort::SerialPortError error) {
-        if (error == QSerialPort::ResourceError)
+        if (error == QSerialPort::ResourceError || error == QSerialPort::ReadError ||
+            error == QSerialPort::WriteError)
             close();
     });
 }

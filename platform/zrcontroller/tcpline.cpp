@@ -11,16 +11,16 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The address of `host`, or a null one when it is not found in time. The system's own look-up knows no time limit, so
+/// The addresses of `host`, none when it is not found in time. The system's own look-up knows no time limit, so
 /// it runs beside us and is left alone when it takes too long.
-QHostAddress lookUp(const QString &host, QDeadlineTimer deadline) {
+QList<QHostAddress> lookUp(const QString &host, QDeadlineTimer deadline) {
     const QHostAddress number(host);
     if (!number.isNull())
-        return number;
-    std::promise<QHostAddress> promise;
-    std::future<QHostAddress> answer = promise.get_future();
+        return {number};
+    std::promise<QList<QHostAddress>> promise;
+    std::future<QList<QHostAddress>> answer = promise.get_future();
     std::thread([host, promise = std::move(promise)]() mutable {
-        promise.set_value(QHostInfo::fromName(host).addresses().value(0));
+        promise.set_value(QHostInfo::fromName(host).addresses());
     }).detach();
     if (answer.wait_for(std::chrono::milliseconds(deadline.remainingTime())) != std::future_status::ready)
         return {};
@@ -47,12 +47,15 @@ void TcpLine::beginOpening() {
 }
 
 bool TcpLine::open(QDeadlineTimer deadline) {
-    const QHostAddress address = lookUp(hostName, deadline);
-    lookUpError = address.isNull() ? u"host %1 not found"_s.arg(hostName) : QString();
-    if (address.isNull())
-        return false;
-    socket.connectToHost(address, portNumber);
-    return socket.waitForConnected(static_cast<int>(deadline.remainingTime()));
+    const QList<QHostAddress> addresses = lookUp(hostName, deadline);
+    lookUpError = addresses.isEmpty() ? u"host %1 not found"_s.arg(hostName) : QString();
+    for (const QHostAddress &address : addresses) {
+        socket.connectToHost(address, portNumber);
+        if (socket.waitForConnected(static_cast<int>(deadline.remainingTime())))
+            return true;
+        socket.abort();
+    }
+    return false;
 }
 
 void TcpLine::close() {

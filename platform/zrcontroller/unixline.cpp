@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "unixline.h"
 
+#include <QThread>
+
+namespace {
+
+constexpr unsigned long retryPauseMs = 20;
+
+} // namespace
+
 UnixLine::UnixLine(const QString &path) : socketPath(path) {
     socket.setReadBufferSize(mostBytesWaiting);
     connect(&socket, &QLocalSocket::connected, this, &CardLine::opened);
@@ -11,13 +19,23 @@ UnixLine::UnixLine(const QString &path) : socketPath(path) {
     });
 }
 
+// A listener that accepts nobody, with its queue full, leaves the socket connecting; it would try again without a pause.
 void UnixLine::beginOpening() {
     socket.connectToServer(socketPath);
+    if (socket.state() == QLocalSocket::ConnectingState)
+        socket.abort();
 }
 
 bool UnixLine::open(QDeadlineTimer deadline) {
-    socket.connectToServer(socketPath);
-    return socket.waitForConnected(static_cast<int>(deadline.remainingTime()));
+    while (true) {
+        socket.connectToServer(socketPath);
+        if (socket.state() != QLocalSocket::ConnectingState)
+            return isOpen();
+        socket.abort();
+        if (deadline.hasExpired())
+            return false;
+        QThread::msleep(retryPauseMs);
+    }
 }
 
 void UnixLine::close() {

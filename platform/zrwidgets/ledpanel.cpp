@@ -30,7 +30,13 @@ QFont fittingFont(const QFont &font, const QString &name, int width) {
     QFont tight = font;
     constexpr int tightest = 60;
     tight.setPixelSize(FontSizes::Small);
-    tight.setStretch(qMax(tightest, 100 * width / needed));
+    // Hinting makes letters a little wider than their share.
+    constexpr int step = 4;
+    for (int stretch = 100 * width / needed; stretch >= tightest; stretch -= step) {
+        tight.setStretch(stretch);
+        if (QFontMetrics(tight).horizontalAdvance(name) <= width)
+            break;
+    }
     return tight;
 }
 

@@ -9,7 +9,6 @@
 
 namespace {
 
-constexpr qsizetype longestShown = 4000;
 constexpr qreal detailSpacing = 12;
 
 void appendParagraph(QTextCursor &cursor, const QString &text, const QFont &font, qreal spaceAbove) {
@@ -23,7 +22,9 @@ void appendParagraph(QTextCursor &cursor, const QString &text, const QFont &font
     else
         cursor.insertBlock(block);
     cursor.setCharFormat(letters);
-    const QString shown = text.size() > longestShown ? text.first(longestShown) + QChar(0x2026) : text;
+    const QString shown = text.size() > MessageView::longestShown
+                              ? text.first(MessageView::longestShown) + QChar(0x2026)
+                              : text;
     cursor.insertText(shown, letters);
 }
 
@@ -45,7 +46,10 @@ void MessageView::setMessage(const QString &text, const QString &detail) {
     QTextCursor cursor(document());
     appendParagraph(cursor, text, FontSizes::sized(font(), FontSizes::Large, QFont::Bold), 0);
     if (!detail.isEmpty())
-        appendParagraph(cursor, detail, FontSizes::sized(font(), FontSizes::Text, QFont::Normal), detailSpacing);
+        appendParagraph(cursor, detail, FontSizes::sized(font(), FontSizes::Text, QFont::Normal),
+                        detailSpacing);
+    // What is inserted pushes the view's own cursor to the end, and that is kept in sight.
+    moveCursor(QTextCursor::Start);
     verticalScrollBar()->setValue(0);
 }
 

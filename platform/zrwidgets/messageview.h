@@ -9,6 +9,8 @@ class MessageView : public QTextEdit {
     Q_OBJECT
 
 public:
+    static constexpr qsizetype longestShown = 4000;
+
     explicit MessageView(QWidget *parent = nullptr);
 
     void setMessage(const QString &text, const QString &detail);

@@ -78,6 +78,11 @@ void TranslucentWindow::showEvent(QShowEvent *event) {
     QDialog::showEvent(event);
 }
 
+void TranslucentWindow::hideEvent(QHideEvent *event) {
+    backdrop = QPixmap();
+    QDialog::hideEvent(event);
+}
+
 bool TranslucentWindow::eventFilter(QObject *watched, QEvent *event) {
     if (isVisible() && watched == coveredWindow() &&
         (event->type() == QEvent::Resize || event->type() == QEvent::Move))

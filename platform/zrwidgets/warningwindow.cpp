@@ -47,9 +47,8 @@ WarningWindow::WarningWindow(QWidget *parent)
 
 int WarningWindow::exec(const QString &text, const QString &detail, const QString &acceptText,
                         const QString &rejectText) {
-    if (isOpen)
+    if (std::exchange(isOpen, false))
         hide();
-    isOpen = false;
     isAsking = true;
     acceptButton->setText(acceptText);
     rejectButton->setText(rejectText);
@@ -62,7 +61,8 @@ int WarningWindow::exec(const QString &text, const QString &detail, const QStrin
 }
 
 void WarningWindow::show(const QString &text, const QString &detail) {
-    const Message message{text, detail};
+    const Message message{text.left(MessageView::longestShown + 1),
+                          detail.left(MessageView::longestShown + 1)};
     if (messages.contains(message))
         return;
     if (messages.size() >= mostWaiting) {
@@ -105,24 +105,22 @@ void WarningWindow::fitContents() {
     view->fit(room.width() - 2 * padding, room.height() - 2 * padding - spacing - buttonsHeight);
 }
 
-void WarningWindow::done(int result) {
-    TranslucentWindow::done(result);
-    if (isAsking || !isOpen)
+void WarningWindow::hideEvent(QHideEvent *event) {
+    TranslucentWindow::hideEvent(event);
+    // However it was closed: by a button, a key, or from outside.
+    if (event->spontaneous() || !isOpen)
         return;
     isOpen = false;
     messages.removeFirst();
-    showFirst();
-    endIfRetired();
+    QMetaObject::invokeMethod(this, &WarningWindow::showFirst, Qt::QueuedConnection);
 }
 
-void WarningWindow::retire() {
-    isRetired = true;
-    endIfRetired();
-}
-
-void WarningWindow::endIfRetired() {
-    if (isRetired && !isAsking && messages.isEmpty())
-        deleteLater();
+void WarningWindow::handOverTo(WarningWindow *heir) {
+    isOpen = false;
+    hide();
+    for (const Message &message : std::exchange(messages, {}))
+        heir->show(message.text, message.detail);
+    deleteLater();
 }
 
 bool WarningWindow::eventFilter(QObject *watched, QEvent *event) {

@@ -26,16 +26,16 @@ public:
              const QString &rejectText);
 
     using QWidget::show;
-    void done(int result) override;
+    /// Gives what is open and what waits to `heir`, and deletes the window. For owners that go before it.
+    void handOverTo(WarningWindow *heir);
 
 public slots:
     /// Shows a message with an OK button, and returns at once.
     void show(const QString &text, const QString &detail);
-    /// Deletes the window as soon as nothing is left to read. For owners that go before it.
-    void retire();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void fitContents() override;
 
@@ -49,7 +49,6 @@ private:
     void showFirst();
     void setMessage(const Message &message);
     void setRejectable(bool isRejectable);
-    void endIfRetired();
 
     DialogFrame *frame;
     MessageView *view;
@@ -60,5 +59,4 @@ private:
     QList<Message> messages;
     bool isOpen = false;
     bool isAsking = false;
-    bool isRetired = false;
 };

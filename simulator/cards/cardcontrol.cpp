@@ -51,6 +51,8 @@ std::optional<QString> CardControl::order(const QString &card, const QStringList
     QByteArray answer;
     while (socket.waitForReadyRead(longestWaitMs))
         answer += socket.readAll();
+    if (socket.state() == QLocalSocket::ConnectedState)
+        return u"error the card's process does not answer"_s;
     return QString::fromUtf8(answer + socket.readAll());
 }
 
@@ -88,10 +90,16 @@ QString CardControl::carryOut(const QStringList &words) {
     } else if (verb == "open"_L1) {
         return cardProcess->openLines() ? done : u"error cannot listen"_s;
     } else if (verb == "babble"_L1 || verb == "live"_L1) {
-        const bool on = object != "off"_L1;
+        if (!object.isEmpty() && object != "off"_L1)
+            return notUnderstood;
+        const bool on = object.isEmpty();
         verb == "babble"_L1 ? cardProcess->babble(on) : cardProcess->live(on);
     } else if (verb == "storm"_L1) {
-        cardProcess->storm(object.toInt());
+        bool isNumber = false;
+        const int updatesPerSecond = object.toInt(&isNumber);
+        if (!isNumber || updatesPerSecond < 0 || updatesPerSecond > 1000)
+            return notUnderstood;
+        cardProcess->storm(updatesPerSecond);
     } else if (const std::optional<CardProcess::ReplyManner> manner = replyManner(object);
                verb == "reply"_L1 && manner) {
         cardProcess->setReplyManner(*manner);

@@ -17,5 +17,7 @@ public:
     virtual void send(const QByteArray &bytes) = 0;
 
 signals:
+    /// Somebody new is at the other end; a serial line cannot see that.
+    void connected();
     void received(const QByteArray &bytes);
 };

@@ -38,6 +38,11 @@ CardProcess::CardProcess(const CardOrder &cardOrder)
       updatePort(makePort(order.wire, CardPlace::updateSocket(order.cardName()))),
       random(static_cast<unsigned int>(order.serial)) {
     connect(commandPort.get(), &CardPort::received, this, &CardProcess::takeBytes);
+    // Who calls anew does not wait for what was asked before.
+    connect(commandPort.get(), &CardPort::connected, this, [this] {
+        unfinishedCommand.clear();
+        keptCommands.clear();
+    });
     connect(updatePort.get(), &CardPort::received, this, &CardProcess::sendUpdate);
     connect(&babbling, &QTimer::timeout, this, &CardProcess::sendNoise);
     connect(&storming, &QTimer::timeout, this, &CardProcess::changeRandomAlarm);
@@ -50,7 +55,7 @@ std::unique_ptr<CardPort> CardProcess::makePort(CardOrder::Wire wire, const QStr
     case CardOrder::Tcp:
         return std::make_unique<TcpPort>();
     case CardOrder::Serial:
-        return std::make_unique<PtyPort>();
+        return std::make_unique<PtyPort>(socketPath + ".tty"_L1);
     case CardOrder::Unix:
         break;
     }
@@ -136,6 +141,7 @@ void CardProcess::shutLines() {
 }
 
 bool CardProcess::openLines() {
+    shutLines();
     return commandPort->listen() && updatePort->listen();
 }
 

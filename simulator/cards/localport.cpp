@@ -40,6 +40,7 @@ void LocalPort::send(const QByteArray &bytes) {
 void LocalPort::answer() {
     hangUp();
     peer = server.nextPendingConnection();
+    emit connected();
     connect(peer, &QLocalSocket::readyRead, this, [this] { emit received(peer->readAll()); });
     connect(peer, &QLocalSocket::disconnected, peer, &QObject::deleteLater);
 }

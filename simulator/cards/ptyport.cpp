@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/ptyport.h"
 
+#include <QFile>
+
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
@@ -8,12 +10,14 @@
 #include <termios.h>
 #include <unistd.h>
 
+PtyPort::PtyPort(const QString &link) : devicePath(link) {}
+
 PtyPort::~PtyPort() {
     shut();
 }
 
 QString PtyPort::address() const {
-    return QLatin1String("serial:") + device;
+    return QLatin1String("serial:") + devicePath;
 }
 
 bool PtyPort::listen() {
@@ -23,7 +27,8 @@ bool PtyPort::listen() {
     if (::openpty(&ourEnd, &theirEnd, name.data(), &settings, nullptr) != 0)
         return false;
     ::fcntl(ourEnd, F_SETFL, O_NONBLOCK);
-    device = QString::fromLatin1(name.data());
+    if (!QFile::link(QString::fromLatin1(name.data()), devicePath))
+        return false;
     notifier = std::make_unique<QSocketNotifier>(ourEnd, QSocketNotifier::Read);
     connect(notifier.get(), &QSocketNotifier::activated, this, &PtyPort::read);
     return true;
@@ -31,6 +36,7 @@ bool PtyPort::listen() {
 
 void PtyPort::shut() {
     notifier.reset();
+    QFile::remove(devicePath);
     for (int *const end : {&ourEnd, &theirEnd}) {
         if (*end >= 0)
             ::close(*end);

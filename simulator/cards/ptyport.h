@@ -12,6 +12,8 @@ class PtyPort : public CardPort {
     Q_OBJECT
 
 public:
+    /// `link` is made to point to the terminal's other end, whose own name changes whenever it is opened anew.
+    explicit PtyPort(const QString &link);
     ~PtyPort() override;
 
     QString address() const override;
@@ -25,6 +27,6 @@ private:
     int ourEnd = -1;
     /// Held open: without it every read fails while the launcher does not have the line open.
     int theirEnd = -1;
-    QString device;
+    QString devicePath;
     std::unique_ptr<QSocketNotifier> notifier;
 };

@@ -42,6 +42,7 @@ void TcpPort::send(const QByteArray &bytes) {
 void TcpPort::answer() {
     hangUp();
     peer = server.nextPendingConnection();
+    emit connected();
     connect(peer, &QTcpSocket::readyRead, this, [this] { emit received(peer->readAll()); });
     connect(peer, &QTcpSocket::disconnected, peer, &QObject::deleteLater);
 }

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <pty.h>
 #include <sys/socket.h>
+#include <sys/time.h>
 #include <sys/un.h>
 #include <termios.h>
 #include <unistd.h>
@@ -89,11 +90,21 @@ void FakeCard::release() {
 }
 
 void FakeCard::sendUnasked(const QByteArray &bytes) {
-    inThread([&] { writeAll(commandLine.peer, bytes); });
+    sendOn(commandLine, bytes);
 }
 
 void FakeCard::sendUpdate(const QByteArray &bytes) {
-    inThread([&] { writeAll(updateLine.peer, bytes); });
+    sendOn(updateLine, bytes);
+}
+
+/// Waits until the bytes are on the line, unless there are more than fit into it: the reader may be the caller.
+void FakeCard::sendOn(Line &line, const QByteArray &bytes) {
+    constexpr qsizetype fitsInAnyLine = 2048;
+    const auto write = [&line, bytes] { writeAll(line.peer, bytes); };
+    if (bytes.size() <= fitsInAnyLine)
+        inThread(write);
+    else
+        QMetaObject::invokeMethod(context.get(), write, Qt::QueuedConnection);
 }
 
 void FakeCard::closeUpdates() {
@@ -176,9 +187,13 @@ void FakeCard::watch(Line &line) {
 
 void FakeCard::accept(Line &line) {
     line.peer = ::accept(line.listener, nullptr, nullptr);
+    constexpr timeval longestWrite{2, 0};
+    ::setsockopt(line.peer, SOL_SOCKET, SO_SNDTIMEO, &longestWrite, sizeof longestWrite);
     line.received.clear();
-    if (&line == &commandLine)
+    if (&line == &commandLine) {
         ++callCount;
+        heldReplies.clear();
+    }
     watch(line);
 }
 

@@ -68,6 +68,7 @@ private:
     void hangUp(Line &line);
     void take(const QByteArray &command);
     void send(const QByteArray &bytes);
+    void sendOn(Line &line, const QByteArray &bytes);
     void inThread(const std::function<void()> &work) const;
 
     Wire wire;

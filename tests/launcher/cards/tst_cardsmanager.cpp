@@ -37,6 +37,7 @@ private slots:
     void missingInfoDirectoryIsTold();
     void unknownTypeIsToldToTheUser_data();
     void unknownTypeIsToldToTheUser();
+    void unknownTypeFoundAtTheStartIsToldWhenTheWindowIsThere();
     void insertedCardIsAnnounced();
     void sameCardTwiceIsTwoCards();
     void removalPicksByTypeAndNumber();
@@ -180,6 +181,20 @@ void CardsManagerTest::unknownTypeIsToldToTheUser() {
     QCOMPARE(debug.lines().value(0), u"\"Sorry, card type %1 is unvalid\""_s.arg(type));
     QVERIFY(cardsOf(window).isEmpty());
     QVERIFY(announced.isEmpty());
+}
+
+void CardsManagerTest::unknownTypeFoundAtTheStartIsToldWhenTheWindowIsThere() {
+    config.setPersistent(u"zr"_s);
+    putInfoFile(u"a.info"_s, "\n1\nx\ny\n");
+    LauncherWindow window;
+    const auto *const warning = window.findChild<WarningWindow *>();
+    QVERIFY(warning);
+    QVERIFY(!warning->isVisible());
+    window.resize(800, 480);
+    window.show();
+    QTRY_VERIFY(warning->isVisible());
+    QCOMPARE(warning->geometry(), window.geometry());
+    QCOMPARE(warning->findChild<QTextEdit *>()->toPlainText(), u"Sorry, card type  is unvalid"_s);
 }
 
 void CardsManagerTest::insertedCardIsAnnounced() {

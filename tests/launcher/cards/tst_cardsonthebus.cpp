@@ -78,6 +78,18 @@ void CardsOnTheBusTest::otherSignalsAreNotHeard_data() {
     QTest::newRow("unsigned number") << u"/"_s << u"zr.card.inserted"_s
                                      << QStringList{u"string:e1"_s, u"uint32:1"_s, u"string:x"_s,
                                                     u"string:y"_s};
+    QTest::newRow("table instead of text")
+        << u"/"_s << u"zr.card.inserted"_s
+        << QStringList{u"dict:string:int32:a,1"_s, u"int32:1"_s, u"string:x"_s, u"string:y"_s};
+    QTest::newRow("table instead of a number")
+        << u"/"_s << u"zr.card.inserted"_s
+        << QStringList{u"string:e1"_s, u"dict:string:int32:a,1"_s, u"string:x"_s, u"string:y"_s};
+    QTest::newRow("one argument too many")
+        << u"/"_s << u"zr.card.inserted"_s << right + QStringList{u"string:z"_s};
+    QTest::newRow("removal of a table")
+        << u"/"_s << u"zr.card.removed"_s << QStringList{u"dict:string:int32:a,1"_s, u"int32:1"_s};
+    QTest::newRow("removal without a number")
+        << u"/"_s << u"zr.card.removed"_s << QStringList{u"string:e1"_s};
     QTest::newRow("no arguments") << u"/"_s << u"zr.card.inserted"_s << QStringList();
 }
 
@@ -90,6 +102,7 @@ void CardsOnTheBusTest::otherSignalsAreNotHeard() {
     insert(u"gbe"_s, u"2"_s);
     QTRY_COMPARE(inserted->size(), 1);
     QCOMPARE(inserted->first().first().toString(), u"gbe"_s);
+    QCOMPARE(removed->size(), 0);
 }
 
 void CardsOnTheBusTest::unknownTypeIsToldOverTheBus() {

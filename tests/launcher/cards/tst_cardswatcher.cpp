@@ -5,6 +5,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -27,6 +28,7 @@ private slots:
     void removedFileIsARemoval();
     void blankInTheNameCutsIt();
     void carriageReturnMakesTheSerialNumberNought();
+    void textsEndAtANul();
     void seededPathIsNeverTold();
     void emptySeedIsNotKept();
     void emptyPathWatchesNothing();
@@ -116,7 +118,10 @@ void CardsWatcherTest::shortenedFileKeepsItsCard() {
     watch();
     put(u"a.info"_s, "e1\n1\nx\ny\n");
     QTRY_COMPARE(events.size(), 1);
+    QSignalSpy changes(watcher.get(), &QFileSystemWatcher::fileChanged);
     QFile(path(u"a.info"_s)).resize(4);
+    QTRY_VERIFY(!changes.isEmpty());
+    QCOMPARE(events.size(), 1);
     QVERIFY(QFile::remove(path(u"a.info"_s)));
     QTRY_COMPARE(events, QStringList({u"+e1|1|x|y"_s, u"-e1|1"_s}));
 }
@@ -145,6 +150,14 @@ void CardsWatcherTest::carriageReturnMakesTheSerialNumberNought() {
     QTRY_COMPARE(events, QStringList{u"+e1\r|0|x\r|y\r"_s});
     QVERIFY(QFile::remove(path(u"a.info"_s)));
     QTRY_COMPARE(events.value(1), u"-e1\r|0"_s);
+}
+
+void CardsWatcherTest::textsEndAtANul() {
+    watch();
+    put(u"a.info"_s, QByteArray("e1\0x\n12\0x\nx\ny\n", 15));
+    QTRY_COMPARE(events, QStringList{u"+e1|12|x|y"_s});
+    QVERIFY(QFile::remove(path(u"a.info"_s)));
+    QTRY_COMPARE(events.value(1), u"-e1|12"_s);
 }
 
 void CardsWatcherTest::seededPathIsNeverTold() {

@@ -9,8 +9,10 @@
 #include <dataproxy.h>
 #include <warningwindow.h>
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTextEdit>
+#include <QTimer>
 
 #include <memory>
 
@@ -38,7 +40,9 @@ private slots:
     void ledsReachThePanel();
     void resetIsSentAndItsUpdateShown();
     void controllerErrorsAreShown();
-    void warningOutlivesTheCardUntilItIsRead();
+    void whatIsUnreadWhenTheCardGoesStaysToBeRead();
+    void deadCardsLeaveOneWindowHoweverManyThereAre();
+    void windowAnswersWhileTheCardBabblesAndStorms();
     void cardThatDiesInACommandIsRemovedOrderly();
     void identityIsKept();
 
@@ -259,17 +263,30 @@ void MeasCardTest::controllerErrorsAreShown() {
     QCOMPARE(measCard->collections().size(), 1);
 }
 
-void MeasCardTest::warningOutlivesTheCardUntilItIsRead() {
+void MeasCardTest::whatIsUnreadWhenTheCardGoesStaysToBeRead() {
     FakeCard card;
     card.close();
-    QPointer<WarningWindow> warning = insertCard(card)->warning();
-    QTRY_VERIFY(warning->isVisible());
+    const QPointer<WarningWindow> ofTheCard = insertCard(card)->warning();
+    QTRY_VERIFY(ofTheCard->isVisible());
     remove(*window, u"e1"_s, 1234);
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QVERIFY(warning);
+    QTRY_VERIFY(!ofTheCard);
+    auto *const warning = window->findChild<CardsManager *>()->warning();
     QVERIFY(warning->isVisible());
+    QVERIFY(warning->findChild<QTextEdit *>()->toPlainText().contains("number 1234"_L1));
     warning->accept();
-    QTRY_VERIFY(!warning);
+    QVERIFY(!warning->isVisible());
+}
+
+void MeasCardTest::deadCardsLeaveOneWindowHoweverManyThereAre() {
+    FakeCard card;
+    card.close();
+    for (int sn = 1; sn <= 60; ++sn) {
+        insert(*window, u"e1"_s, sn, card);
+        QCoreApplication::processEvents();
+        remove(*window, u"e1"_s, sn);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCOMPARE(window->findChildren<WarningWindow *>().size(), 1);
 }
 
 void MeasCardTest::cardThatDiesInACommandIsRemovedOrderly() {
@@ -283,6 +300,29 @@ void MeasCardTest::cardThatDiesInACommandIsRemovedOrderly() {
         this, [this] { remove(*window, u"e1"_s, 1234); }, Qt::QueuedConnection);
     QCOMPARE(measCard->readLedsNames(), QStringList());
     QTRY_VERIFY(cardsOf(*window).isEmpty());
+}
+
+void MeasCardTest::windowAnswersWhileTheCardBabblesAndStorms() {
+    FakeCard card;
+    card.setReply("status alarms", "LOS");
+    insertCard(card);
+    LedPanel *const panel = ledPanelOf(*window);
+    QVERIFY(showStates(card, R"({"LOS":"none"})", [panel] { return panel->quality(u"LOS"_s) == Good; }));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"nobody asked for"_s));
+    QTest::ignoreMessage(QtWarningMsg, QRegularExpression(u"no update"_s));
+    card.sendUnasked(QByteArray(300'000, '?'));
+    card.sendUpdate(QByteArray(300'000, '?') + '\n' +
+                    QByteArray("{\"indicators\":{\"LOS\":\"history\"}}\n").repeated(2000) +
+                    "{\"indicators\":{\"LOS\":\"present\"}}\n");
+    QElapsedTimer timer;
+    qint64 longestPause = 0;
+    QTimer heartbeat;
+    connect(&heartbeat, &QTimer::timeout, this, [&] { longestPause = qMax(longestPause, timer.restart()); });
+    heartbeat.start(1);
+    timer.start();
+    QTRY_COMPARE(panel->quality(u"LOS"_s), Bad);
+    // Far more than it takes, so that a busy machine does not matter; a nested wait would be two seconds.
+    QVERIFY2(longestPause < 1500, qPrintable(QString::number(longestPause)));
 }
 
 void MeasCardTest::identityIsKept() {

@@ -25,6 +25,10 @@ private slots:
     void bindingShowsTheCardsLedsAtOnce();
     void removedCardLeavesThePersistentPage();
     void controllerIsKeptForTheNextCard();
+    void controllerThatWasKeptIsKeptAgain();
+    void controllerOfACardWithoutPersistentPagesIsDeleted();
+    void secondCardOfATypeStaysBoundWhenTheFirstGoes();
+    void bothModesMayBePersistent();
     void pageOfACardGoesWithIt();
     void enteringAPageSwitchesTheCard();
     void refusedPageIsNotShown();
@@ -118,18 +122,81 @@ void CardPluginsCollectionTest::controllerIsKeptForTheNextCard() {
     remove(*window, u"e1"_s, 2);
 }
 
+void CardPluginsCollectionTest::controllerThatWasKeptIsKeptAgain() {
+    open(u"zr sa"_s);
+    FakeCard dual;
+    dual.setReply("options", "ZR-SIG1");
+    insert(*window, u"e1"_s, 1, dual);
+    const QPointer<CardController> controller = CardController::card(u"e1"_s, u"1"_s);
+    remove(*window, u"e1"_s, 1);
+    // This one binds nothing that stays, but a plug-in of "sa" may still hold its controller.
+    FakeCard single;
+    insert(*window, u"e1"_s, 2, single);
+    QCOMPARE(CardController::card(u"e1"_s, u"2"_s), controller);
+    remove(*window, u"e1"_s, 2);
+    QVERIFY(controller);
+}
+
+void CardPluginsCollectionTest::controllerOfACardWithoutPersistentPagesIsDeleted() {
+    open(u"zr"_s);
+    FakeCard card;
+    insert(*window, u"gbe"_s, 1, card);
+    const QPointer<CardController> controller = CardController::card(u"gbe"_s, u"1"_s);
+    QVERIFY(controller);
+    remove(*window, u"gbe"_s, 1);
+    QVERIFY(!controller);
+}
+
+void CardPluginsCollectionTest::secondCardOfATypeStaysBoundWhenTheFirstGoes() {
+    open(u"zr e1"_s);
+    FakeCard first;
+    first.setReply("status alarms", "FIRST");
+    FakeCard second;
+    second.setReply("status alarms", "SECOND");
+    insert(*window, u"e1"_s, 1, first);
+    insert(*window, u"e1"_s, 2, second);
+    LedPanel *const panel = ledPanelOf(*window);
+    // The first card's news are not shown any more.
+    QVERIFY(showStates(first, R"({"FIRST":1})",
+                       [&first] { return first.commands().count("status alarms") >= 2; }));
+    QCOMPARE(panel->names(), QStringList{u"SECOND"_s});
+    remove(*window, u"e1"_s, 1);
+    enter(u"PCM"_s);
+    QCOMPARE(panel->names(), QStringList{u"SECOND"_s});
+    QTest::mouseClick(panel, Qt::LeftButton);
+    QCOMPARE(second.commands().last(), QByteArray("status alarms reset"));
+}
+
+void CardPluginsCollectionTest::bothModesMayBePersistent() {
+    open(u"zr e1 sa"_s);
+    for (const int sn : {1, 2}) {
+        FakeCard card;
+        card.setReply("options", "ZR-SIG1");
+        card.setReply("status alarms", "LOS");
+        insert(*window, u"e1"_s, sn, card);
+        enter(u"Signaling"_s);
+        QCOMPARE(card.commands().mid(card.commands().size() - 3),
+                 QList<QByteArray>({"operation sa", "parameters", "status alarms"}));
+        enter(u"PCM"_s);
+        QCOMPARE(ledPanelOf(*window)->names(), QStringList{u"LOS"_s});
+        remove(*window, u"e1"_s, sn);
+        QCOMPARE(labels(), QStringList({u"PCM"_s, u"Settings"_s, u"Signaling"_s}));
+    }
+    enter(u"Signaling"_s);
+    QVERIFY(ledPanelOf(*window)->names().isEmpty());
+}
+
 void CardPluginsCollectionTest::pageOfACardGoesWithIt() {
     open(u"zr"_s);
     FakeCard card;
     card.setReply("options", "ZR-SIG1");
     insert(*window, u"e1"_s, 1, card);
     QCOMPARE(labels(), QStringList({u"PCM"_s, u"Settings"_s, u"Signaling"_s}));
-    const QPointer<CardController> controller = CardController::card(u"e1"_s, u"1"_s);
     remove(*window, u"e1"_s, 1);
     QCOMPARE(labels(), QStringList{u"Settings"_s});
     QCOMPARE(shown(), u"Settings"_s);
-    QVERIFY(!controller);
     QVERIFY(!persistentCollection());
+    QVERIFY(!CardController::card(u"e1"_s, u"1"_s));
 }
 
 void CardPluginsCollectionTest::enteringAPageSwitchesTheCard() {
