@@ -52,8 +52,11 @@ bool MeasCard::freeCollections() {
     for (CardPluginsCollection *const collection : std::as_const(cardCollections)) {
         if (collection->persistent()) {
             // Another card of this type may have been bound since.
-            if (collection->measCard() == this)
+            if (collection->measCard() == this) {
+                // The page stays, but must not go on showing alarms of a card that is gone.
+                emit setupLeds(QStringList());
                 collection->freeMeasCard();
+            }
             onePersists = true;
         } else {
             delete collection;

@@ -29,6 +29,51 @@
     </message>
 </context>
 <context>
+    <name>CardController</name>
+    <message>
+        <source>Card %1, number %2, command &quot;%3&quot;</source>
+        <translation>Карта %1, номер %2, команда «%3»</translation>
+    </message>
+</context>
+<context>
+    <name>CardsManager</name>
+    <message>
+        <source>Sorry, card type %1 is unvalid</source>
+        <translation>Тип карты %1 не поддерживается</translation>
+    </message>
+</context>
+<context>
+    <name>CommandChannel</name>
+    <message>
+        <source>&quot;%1&quot; is not the address of a card.</source>
+        <translation>«%1» не является адресом карты.</translation>
+    </message>
+    <message>
+        <source>A command is one line.</source>
+        <translation>Команда должна занимать одну строку.</translation>
+    </message>
+    <message>
+        <source>The card does not answer.</source>
+        <translation>Карта не отвечает.</translation>
+    </message>
+    <message>
+        <source>The card cannot be reached: %1.</source>
+        <translation>Нет связи с картой: %1.</translation>
+    </message>
+    <message>
+        <source>The card closed the line.</source>
+        <translation>Карта закрыла линию.</translation>
+    </message>
+    <message>
+        <source>The card&apos;s reply has no end.</source>
+        <translation>Ответ карты не имеет конца.</translation>
+    </message>
+    <message>
+        <source>The card did not answer in time.</source>
+        <translation>Карта не ответила вовремя.</translation>
+    </message>
+</context>
+<context>
     <name>FileContent</name>
     <message>
         <source>This file cannot be read.</source>
@@ -419,6 +464,13 @@ Tools</source>
     <message>
         <source>Storage</source>
         <translation>Накопитель</translation>
+    </message>
+</context>
+<context>
+    <name>WarningWindow</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
     </message>
 </context>
 </TS>

@@ -41,6 +41,11 @@ MessageView::MessageView(QWidget *parent) : QTextEdit(parent) {
     QScroller::grabGesture(viewport(), QScroller::LeftMouseButtonGesture);
 }
 
+MessageView::~MessageView() {
+    // Qt would keep the recogniser of the thumb's movements for ever.
+    QScroller::ungrabGesture(viewport());
+}
+
 void MessageView::setMessage(const QString &text, const QString &detail) {
     clear();
     QTextCursor cursor(document());

@@ -12,6 +12,7 @@ public:
     static constexpr qsizetype longestShown = 4000;
 
     explicit MessageView(QWidget *parent = nullptr);
+    ~MessageView() override;
 
     void setMessage(const QString &text, const QString &detail);
     /// Takes the height that the message needs at `width`, at most `mostHeight`.

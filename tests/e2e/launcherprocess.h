@@ -35,6 +35,8 @@ public:
     QString backButtonText() { return ask<QString>("backButtonText"); }
     QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
     QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
+    QStringList leds() { return ask<QStringList>("leds"); }
+    QString message() { return ask<QString>("message"); }
     QStringList windowSize() { return ask<QStringList>("windowSize"); }
     bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }
     bool grab(const QString &file) { return ask<bool>("grab", {file}); }

@@ -128,6 +128,10 @@ QList<QByteArray> FakeCard::commands() const {
     return copy;
 }
 
+void FakeCard::forgetCommands() {
+    inThread([this] { receivedCommands.clear(); });
+}
+
 int FakeCard::calls() const {
     int count = 0;
     inThread([&] { count = callCount; });

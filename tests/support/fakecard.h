@@ -47,6 +47,7 @@ public:
 
     /// What has arrived on the command line so far.
     QList<QByteArray> commands() const;
+    void forgetCommands();
     /// How often somebody called on the command line.
     int calls() const;
 

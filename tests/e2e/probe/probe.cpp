@@ -5,6 +5,7 @@
 
 #include <checkbutton.h>
 #include <icontile.h>
+#include <ledpanel.h>
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -13,6 +14,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QStackedWidget>
+#include <QTextEdit>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -73,6 +75,20 @@ QStringList Probe::selectorTexts() const {
 
 QStringList Probe::iconTexts() const {
     return textsOf<IconTile>();
+}
+
+QStringList Probe::leds() const {
+    const auto *const panel = LauncherWindow::instance()->findChild<LedPanel *>();
+    QStringList leds;
+    for (const QString &name : panel->names())
+        leds.append(name + u':' + QString::number(panel->quality(name)));
+    return leds;
+}
+
+QString Probe::message() const {
+    const QWidget *const dialog = QApplication::activeModalWidget();
+    const auto *const text = dialog ? dialog->findChild<QTextEdit *>() : nullptr;
+    return text ? text->toPlainText() : QString();
 }
 
 QWidget *Probe::named(const QString &nameOrText) const {

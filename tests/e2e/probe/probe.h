@@ -20,6 +20,10 @@ public slots:
     QString shownPage() const;
     QStringList selectorTexts() const;
     QStringList iconTexts() const;
+    /// Names of the lamps in the left column, each followed by a colon and its quality as a number.
+    QStringList leds() const;
+    /// Text of the topmost message that is open.
+    QString message() const;
     bool isVisible(const QString &name) const;
     /// Presses and lets go in the middle of the visible widget of that object name or that text.
     bool press(const QString &nameOrText) const;

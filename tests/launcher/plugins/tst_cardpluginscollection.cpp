@@ -99,6 +99,7 @@ void CardPluginsCollectionTest::removedCardLeavesThePersistentPage() {
     remove(*window, u"e1"_s, 1);
     QCOMPARE(labels(), QStringList({u"PCM"_s, u"Settings"_s}));
     QCOMPARE(shown(), u"PCM"_s);
+    QVERIFY(ledPanelOf(*window)->names().isEmpty());
     enter(u"Settings"_s);
     enter(u"PCM"_s);
     QVERIFY(ledPanelOf(*window)->names().isEmpty());

@@ -1,0 +1,226 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What cards cost: see docs/performance.md. Everything in one process on the offscreen platform, over a real bus and real
+// sockets:  dbus-run-session -- build/release/benchmarks/measure-cards
+#include "insertedcards.h"
+#include "testconfig.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QPaintEvent>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdio>
+#include <thread>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Counts the paintings of the LED panel and how much of it they covered.
+class PaintWatch : public QObject {
+public:
+    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
+
+    int paintings = 0;
+    int lastArea = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override {
+        if (event->type() == QEvent::Paint) {
+            ++paintings;
+            const QRect rect = static_cast<QPaintEvent *>(event)->region().boundingRect();
+            lastArea = rect.width() * rect.height();
+        }
+        return false;
+    }
+};
+
+template <typename Condition>
+bool runUntil(Condition condition) {
+    QElapsedTimer timer;
+    timer.start();
+    while (!condition() && timer.elapsed() < 5000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    return condition();
+}
+
+double median(QList<double> values) {
+    std::sort(values.begin(), values.end());
+    return values[values.size() / 2];
+}
+
+void sendSignal(const QString &name, const QVariantList &arguments) {
+    static QDBusConnection sender = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"sender"_s);
+    QDBusMessage message = QDBusMessage::createSignal(u"/"_s, u"zr.card"_s, name);
+    message.setArguments(arguments);
+    sender.send(message);
+}
+
+QByteArray update(int number, const char *state) {
+    QByteArray states;
+    for (int i = 0; i < number; ++i)
+        states += QByteArray(i ? "," : "") + "\"L" + QByteArray::number(i) + "\":\"" + state + '"';
+    return "{\"indicators\":{" + states + "}}\n";
+}
+
+void measureAnnouncement(LauncherWindow &window, PaintWatch &watch) {
+    QList<double> times;
+    for (int sn = 1; sn <= 100; ++sn) {
+        FakeCard card;
+        card.setReply("status alarms", "LOS\nAIS\nLOF\nRAI");
+        const int before = watch.paintings;
+        QElapsedTimer timer;
+        timer.start();
+        sendSignal(u"inserted"_s, {u"gbe"_s, sn, card.cardiface(), card.poller()});
+        runUntil([&] { return window.cardType() == "GbE"_L1 && watch.paintings > before; });
+        times.append(double(timer.nsecsElapsed()) / 1e6);
+        sendSignal(u"removed"_s, {u"gbe"_s, sn});
+        runUntil([&] { return cardsOf(window).isEmpty(); });
+    }
+    std::printf("card announcement to its page painted    %7.2f ms (median of 100)\n", median(times));
+}
+
+void measureUpdate(FakeCard &card, PaintWatch &watch) {
+    QList<double> times;
+    for (int i = 0; i < 200; ++i) {
+        // Longer than the interval in which updates are told together.
+        std::this_thread::sleep_for(25ms);
+        QCoreApplication::processEvents();
+        const int before = watch.paintings;
+        QElapsedTimer timer;
+        timer.start();
+        card.sendUpdate(update(4, i % 2 ? "none" : "present"));
+        runUntil([&] { return watch.paintings > before; });
+        times.append(double(timer.nsecsElapsed()) / 1e6);
+    }
+    std::printf("indicator update to LED painted           %7.2f ms (median of 200)\n", median(times));
+}
+
+/// The longest time that an input event would have waited during a second of updates.
+double longestWait(FakeCard &card, int updatesPerSecond) {
+    std::atomic<bool> goesOn = true;
+    std::thread sender([&] {
+        const auto start = std::chrono::steady_clock::now();
+        for (qint64 sent = 0; goesOn; ++sent) {
+            card.sendUpdate(update(24, sent % 2 ? "none" : "present"));
+            std::this_thread::sleep_until(start + (sent + 1) * 1'000'000us / updatesPerSecond);
+        }
+    });
+    double longest = 0;
+    QElapsedTimer sinceLast;
+    QTimer heartbeat;
+    heartbeat.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&heartbeat, &QTimer::timeout, [&] {
+        longest = std::max(longest, double(sinceLast.nsecsElapsed()) / 1e6 - 5), sinceLast.start();
+    });
+    heartbeat.start(5);
+    sinceLast.start();
+    QElapsedTimer whole;
+    whole.start();
+    while (whole.elapsed() < 1000)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
+    goesOn = false;
+    sender.join();
+    return longest;
+}
+
+void measureRate(FakeCard &card) {
+    for (const int rate : {100, 1000, 3000, 10000, 30000})
+        std::printf("%6d updates a second of 24 LEDs: an input event waits %7.2f ms at most\n", rate,
+                    longestWait(card, rate));
+}
+
+void measurePanel(LauncherWindow &window, PaintWatch &watch) {
+    LedPanel *const panel = ledPanelOf(window);
+    for (const int number : {4, 24, 96}) {
+        QStringList names;
+        for (int i = 0; i < number; ++i)
+            names.append(u'L' + QString::number(i));
+        window.setupLeds(names);
+        QCoreApplication::processEvents();
+        QElapsedTimer timer;
+        timer.start();
+        constexpr int repetitions = 200;
+        for (int i = 0; i < repetitions; ++i) {
+            QList<QPair<QString, QString>> states;
+            for (const QString &name : names)
+                states.append({name, i % 2 ? u"none"_s : u"present"_s});
+            window.updateLeds(states);
+            QCoreApplication::processEvents();
+        }
+        const double all = double(timer.nsecsElapsed()) / 1e6 / repetitions;
+        QList<QPair<QString, QString>> one{{u"L1"_s, u"history"_s}};
+        window.updateLeds(one);
+        QCoreApplication::processEvents();
+        std::printf("%3d LEDs: all change and are painted %6.3f ms; one change paints %d of %d pixels\n",
+                    number, all, watch.lastArea, panel->width() * panel->height());
+    }
+}
+
+/// Voluntary and forced switches of all threads: each is a wake-up.
+qint64 contextSwitches() {
+    qint64 sum = 0;
+    for (const QString &thread : QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        QFile file(u"/proc/self/task/%1/status"_s.arg(thread));
+        if (!file.open(QIODevice::ReadOnly))
+            continue;
+        for (const QByteArray &line : file.readAll().split('\n')) {
+            if (line.contains("ctxt_switches"))
+                sum += line.mid(line.indexOf(':') + 1).trimmed().toLongLong();
+        }
+    }
+    return sum;
+}
+
+void measureRest() {
+    constexpr int seconds = 20;
+    const qint64 before = contextSwitches();
+    QTimer::singleShot(seconds * 1000, qApp, &QCoreApplication::quit);
+    QApplication::exec();
+    std::printf("at rest with three cards: %lld wake-ups a minute\n",
+                static_cast<long long>((contextSwitches() - before) * 60 / seconds));
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    const QTemporaryDir place;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_CONFIG_HOME", place.path().toLocal8Bit());
+    qputenv("ZR_SYSROOT", place.path().toLocal8Bit());
+    const QApplication application(argc, argv);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    TestConfig().setPersistent(u"none"_s);
+    LauncherWindow window;
+    window.resize(800, 480);
+    window.show();
+    QCoreApplication::processEvents();
+    PaintWatch watch(ledPanelOf(window));
+
+    measureAnnouncement(window, watch);
+    FakeCard e1;
+    FakeCard otdr;
+    FakeCard gbe;
+    for (FakeCard *const card : {&e1, &otdr, &gbe})
+        card->setReply("status alarms", "L0\nL1\nL2\nL3");
+    insert(window, u"otdr"_s, 1, otdr);
+    insert(window, u"gbe"_s, 1, gbe);
+    insert(window, u"e1"_s, 1, e1);
+    runUntil([&] {
+        e1.sendUpdate(update(4, "none"));
+        return ledPanelOf(window)->quality(u"L0"_s) == Good;
+    });
+    measureUpdate(e1, watch);
+    measureRate(e1);
+    measurePanel(window, watch);
+    measureRest();
+    return 0;
+}

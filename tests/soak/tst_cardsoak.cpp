@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "insertedcards.h"
+#include "testconfig.h"
+
+#include <styleoverride.h>
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusInterface>
+#include <QDBusReply>
+#include <QDir>
+#include <QFile>
+
+#include <malloc.h>
+#include <map>
+#include <memory>
+#include <unistd.h>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int rounds = 5000;
+constexpr int warmUpRounds = 100;
+constexpr qint64 mostGrowthBytes = 2 * 1024 * 1024;
+
+struct Holdings {
+    qsizetype widgets;
+    qsizetype objects;
+    qsizetype descriptors;
+    int matchRules;
+    bool operator==(const Holdings &) const = default;
+};
+
+qint64 residentBytes() {
+    // What was freed counts as free only when it was given back.
+    ::malloc_trim(0);
+    QFile file(u"/proc/self/statm"_s);
+    if (!file.open(QIODevice::ReadOnly))
+        return -1;
+    return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
+}
+
+/// The bus's own count of what this connection wants to hear.
+int matchRules() {
+    const QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusInterface stats(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                         u"org.freedesktop.DBus.Debug.Stats"_s, bus);
+    const QDBusReply<QVariantMap> reply = stats.call(u"GetConnectionStats"_s, bus.baseService());
+    return reply.isValid() ? reply.value().value(u"MatchRules"_s, -1).toInt() : -1;
+}
+
+} // namespace
+
+/// Thousands of cards of all types come and go; nothing of them is left.
+class CardSoakTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void fiveThousandCardsLeaveNothingBehind();
+
+private:
+    void insertAndRemove(int round);
+    Holdings holdings() const {
+        return {QApplication::allWidgets().size(), window->findChildren<QObject *>().size(),
+                QDir(u"/proc/self/fd"_s).entryList().size(), matchRules()};
+    }
+
+    std::unique_ptr<LauncherWindow> window;
+    std::map<QString, FakeCard> cards;
+};
+
+void CardSoakTest::insertAndRemove(int round) {
+    static const QStringList types{u"e1"_s, u"gbe"_s, u"da"_s, u"otdr"_s};
+    const QString type = types[round % types.size()];
+    FakeCard &card = cards[type];
+    insert(*window, type, round, card);
+    card.sendUpdate("{\"indicators\":{\"LOS\":\"present\"}}\n");
+    QCoreApplication::processEvents();
+    remove(*window, type, round);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+    card.forgetCommands();
+}
+
+void CardSoakTest::fiveThousandCardsLeaveNothingBehind() {
+    // As the launcher dresses itself: the plain style keeps a picture of every button it ever drew.
+    QApplication::setStyle(new StyleOverride(QApplication::style()));
+    TestConfig config;
+    config.setPersistent(u"zr da"_s);
+    window = std::make_unique<LauncherWindow>();
+    window->resize(800, 480);
+    window->show();
+    for (const QString &type : {u"e1"_s, u"gbe"_s, u"da"_s, u"otdr"_s}) {
+        cards[type].setReply("options", type == "e1"_L1 ? "ZR-SIG1" : "");
+        cards[type].setReply("status alarms", "LOS\nAIS");
+    }
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
+    for (int round = 0; round < warmUpRounds; ++round)
+        insertAndRemove(round);
+    const Holdings before = holdings();
+    const qint64 memoryBefore = residentBytes();
+    for (int round = warmUpRounds; round < rounds; ++round)
+        insertAndRemove(round);
+    const Holdings after = holdings();
+    const qint64 growth = residentBytes() - memoryBefore;
+    qInstallMessageHandler(nullptr);
+
+    QVERIFY(cardsOf(*window).isEmpty());
+    QCOMPARE(after.widgets, before.widgets);
+    QCOMPARE(after.objects, before.objects);
+    QCOMPARE(after.descriptors, before.descriptors);
+    QVERIFY2(before.matchRules > 0, "the bus does not count match rules");
+    QCOMPARE(after.matchRules, before.matchRules);
+    // The address sanitizer keeps freed memory for a while, so there is nothing to learn from it there.
+    if (MEMORY_IS_MEASURED)
+        QVERIFY2(growth < mostGrowthBytes, qPrintable(QString::number(growth)));
+    qInfo("resident memory grew by %lld bytes in %d rounds", static_cast<long long>(growth),
+          rounds - warmUpRounds);
+}
+
+QTEST_MAIN(CardSoakTest)
+#include "tst_cardsoak.moc"
