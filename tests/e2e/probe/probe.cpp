@@ -131,7 +131,9 @@ void Probe::goHome() const {
 bool Probe::grab(const QString &file) const {
     LauncherWindow *const window = LauncherWindow::instance();
     QPixmap picture = window->grab();
-    if (QWidget *const popup = QApplication::activePopupWidget())
-        QPainter(&picture).drawPixmap(popup->pos() - window->pos(), popup->grab());
+    for (QWidget *const above : {QApplication::activeModalWidget(), QApplication::activePopupWidget()}) {
+        if (above)
+            QPainter(&picture).drawPixmap(above->pos() - window->pos(), above->grab());
+    }
     return picture.save(file);
 }
