@@ -15,6 +15,7 @@ Q_LOGGING_CATEGORY(colorer, "zr.colorer", QtWarningMsg)
 const QMap<QString, QPalette> &allPalettes() {
     static const QMap<QString, QPalette> palettes{
         {u"GenericWindow"_s, genericWindowPalette()},
+        {u"Battery"_s, batteryPalette()},
         {u"Chrome"_s, chromePalette()},
         {u"TimeButton"_s, timeButtonPalette()},
         {u"quality"_s, qualityPalette()},

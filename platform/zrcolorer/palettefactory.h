@@ -10,6 +10,7 @@
 /// |---|---|
 /// | "GenericWindow" | content: pages, windows, tiles, buttons |
 /// | "Chrome" | header and left column; Base is the sunk ground of the lamps |
+/// | "Battery" | the battery in the left column: Button is its outline there, the texts are those of its panel |
 /// | "TimeButton" | the clock in the header |
 /// | "quality" | lamps and shapes only: Window of Active = good, Inactive = warning, Disabled = bad |
 ///

@@ -5,6 +5,7 @@
 
 // One function a palette, each in the file named after it.
 QPalette genericWindowPalette();
+QPalette batteryPalette();
 QPalette chromePalette();
 QPalette timeButtonPalette();
 QPalette qualityPalette();

@@ -1,10 +1,26 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qwsserver.h"
 
+#include "keyboardtap.h"
+
 #include <QCursor>
 #include <QGuiApplication>
+#include <QList>
+
+#include <algorithm>
 
 namespace {
+
+QList<QWSServer::KeyboardFilter *> filters;
+
+bool isConsumed(const PlatformKey &key) {
+    // A filter may run an event loop, and filters may come and go in it.
+    const QList<QWSServer::KeyboardFilter *> asked = filters;
+    return std::any_of(asked.crbegin(), asked.crend(), [&key](QWSServer::KeyboardFilter *filter) {
+        return filters.contains(filter) &&
+               filter->filter(key.unicode, key.keycode, key.modifiers, key.isPress, key.isAutoRepeat);
+    });
+}
 
 bool pointerIsHidden() {
     const QCursor *const cursor = QGuiApplication::overrideCursor();
@@ -12,6 +28,22 @@ bool pointerIsHidden() {
 }
 
 } // namespace
+
+QWSServer::KeyboardFilter::~KeyboardFilter() = default;
+
+void QWSServer::addKeyboardFilter(KeyboardFilter *filter) {
+    filters.append(filter);
+    if (filters.size() == 1)
+        tapKeyboard(isConsumed);
+}
+
+void QWSServer::removeKeyboardFilter() {
+    if (filters.isEmpty())
+        return;
+    filters.removeLast();
+    if (filters.isEmpty())
+        tapKeyboard(nullptr);
+}
 
 void QWSServer::setCursorVisible(bool visible) {
     if (visible != pointerIsHidden())

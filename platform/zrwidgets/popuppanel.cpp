@@ -14,14 +14,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int shadowWidth = 10;
+constexpr int usualShadow = 10;
 constexpr int padding = 12;
 constexpr int spacing = 8;
 constexpr int borderWidth = 2;
 constexpr qreal radius = 10;
 constexpr int shadowAlpha = 10;
 
-void drawShadow(QPainter &painter, const QRectF &frame) {
+void drawShadow(QPainter &painter, const QRectF &frame, int shadowWidth) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, shadowAlpha));
     for (int spread = shadowWidth; spread > 0; spread -= 2)
@@ -43,7 +43,29 @@ PopupPanel::PopupPanel(QWidget *parent)
 }
 
 void PopupPanel::setCallerRect(const QRect &rect) {
-    callerRect = rect;
+    callerRectangle = rect;
+}
+
+void PopupPanel::setCallerRectMargin(int margin) {
+    callerMargin = margin;
+}
+
+void PopupPanel::setClipCallerRect(bool clip) {
+    sparesCaller = clip;
+}
+
+void PopupPanel::setContentsRect(const QRect &rect) {
+    if (rect == fixedContents)
+        return;
+    fixedContents = rect;
+    while (QLayoutItem *const item = panelLayout->takeAt(0))
+        delete item;
+    panelLayout->setSizeConstraint(QLayout::SetNoConstraint);
+    doResize();
+}
+
+int PopupPanel::shadowWidth() const {
+    return fixedContents.isEmpty() ? usualShadow : 0;
 }
 
 void PopupPanel::addToLayout(QWidget *widget) {
@@ -56,17 +78,18 @@ void PopupPanel::childEvent(QChildEvent *event) {
     QWidget::childEvent(event);
     auto *const widget = qobject_cast<QWidget *>(event->child());
     // Leaving is the layout's own business: it drops what is no longer a child of its widget.
-    if (event->added() && widget && !widget->isWindow() && panelLayout->indexOf(widget) < 0)
+    if (event->added() && widget && !widget->isWindow() && fixedContents.isEmpty() &&
+        panelLayout->indexOf(widget) < 0)
         panelLayout->addWidget(widget);
 }
 
 void PopupPanel::setHeadHeight(int height) {
-    constexpr int margin = shadowWidth + padding;
+    constexpr int margin = usualShadow + padding;
     panelLayout->setContentsMargins(margin, margin + height, margin, margin);
 }
 
 QRect PopupPanel::contentsArea() const {
-    constexpr int margin = shadowWidth + padding;
+    constexpr int margin = usualShadow + padding;
     return rect().adjusted(margin, margin, -margin, -margin);
 }
 
@@ -77,11 +100,24 @@ QRect PopupPanel::bounds() const {
 
 void PopupPanel::doResize() {
     panelLayout->activate();
-    const QSize size = sizeHint().expandedTo(minimumSize());
+    const QSize laidOut = sizeHint().expandedTo(minimumSize());
+    const QSize size = fixedContents.isEmpty() ? laidOut : fixedContents.size();
     // The shadow may leave the bounds, the panel not.
-    constexpr QMargins shadow(shadowWidth, shadowWidth, shadowWidth, shadowWidth);
-    setGeometry(placeBeside(callerRect, size.shrunkBy(shadow), bounds().marginsRemoved({4, 4, 4, 4}))
+    const int width = shadowWidth();
+    const QMargins shadow(width, width, width, width);
+    const QMargins gap(callerMargin, callerMargin, callerMargin, callerMargin);
+    setGeometry(placeBeside(callerRectangle.marginsAdded(gap), size.shrunkBy(shadow),
+                            bounds().marginsRemoved({4, 4, 4, 4}))
                     .marginsAdded(shadow));
+    clipToCaller();
+}
+
+void PopupPanel::clipToCaller() {
+    const QRect caller = callerRectangle.translated(-pos());
+    if (sparesCaller && rect().intersects(caller))
+        setMask(QRegion(rect()).subtracted(caller));
+    else
+        clearMask();
 }
 
 void PopupPanel::showEvent(QShowEvent *event) {
@@ -93,12 +129,13 @@ void PopupPanel::showEvent(QShowEvent *event) {
 }
 
 void PopupPanel::paintEvent(QPaintEvent *) {
-    const QRectF frame = QRectF(rect()).adjusted(shadowWidth, shadowWidth, -shadowWidth, -shadowWidth);
+    const int width = shadowWidth();
+    const QRectF frame = QRectF(rect()).adjusted(width, width, -width, -width);
     QPainter painter(this);
     painter.fillRect(rect(), palette().dark());
     painter.drawPixmap(0, 0, backdrop);
     painter.setRenderHint(QPainter::Antialiasing);
-    drawShadow(painter, frame);
+    drawShadow(painter, frame, width);
     constexpr qreal inset = borderWidth / 2.0;
     painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Button), borderWidth));
     painter.setBrush(palette().window());

@@ -16,6 +16,14 @@ public:
 
     /// The caller's rectangle, in screen coordinates.
     void setCallerRect(const QRect &rect);
+    QRect callerRect() const { return callerRectangle; }
+    /// Pixels kept free between the caller and the panel.
+    void setCallerRectMargin(int margin);
+    /// Whether a panel that has no room beside its caller leaves the caller uncovered.
+    void setClipCallerRect(bool clip);
+    /// For panels that place their widgets themselves: the panel has the size of `rect` and no shadow, and lays out
+    /// nothing.
+    void setContentsRect(const QRect &rect);
     /// Puts `widget` below the others. The panel becomes its parent.
     void addToLayout(QWidget *widget);
     /// Fits the panel to its contents, beside the caller and inside the parent's window, or the screen.
@@ -33,8 +41,14 @@ protected:
 
 private:
     QRect bounds() const;
+    int shadowWidth() const;
+    void clipToCaller();
 
     QVBoxLayout *panelLayout;
-    QRect callerRect;
+    QRect callerRectangle;
+    int callerMargin = 0;
+    bool sparesCaller = false;
+    /// Empty when the panel lays its widgets out.
+    QRect fixedContents;
     QPixmap backdrop;
 };

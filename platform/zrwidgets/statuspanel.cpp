@@ -6,6 +6,8 @@
 namespace {
 
 constexpr int gapBelowPicture = 8;
+constexpr int groundPadding = 8;
+constexpr qreal radius = 10;
 
 } // namespace
 
@@ -29,5 +31,15 @@ void StatusPanel::paintEvent(QPaintEvent *event) {
     PopupPanel::paintEvent(event);
     const QRect area = contentsArea();
     const int width = qRound(headPicture.deviceIndependentSize().width());
-    QPainter(this).drawPixmap(area.x() + (area.width() - width) / 2, area.y(), headPicture);
+    if (headPicture.isNull())
+        return;
+    const QRect place(area.x() + (area.width() - width) / 2, area.y(), width,
+                      qRound(headPicture.deviceIndependentSize().height()));
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // Pictures are drawn for the dark column that they come from.
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().brush(QPalette::Active, QPalette::Button));
+    painter.drawRoundedRect(place.adjusted(-groundPadding, 0, groundPadding, 0), radius, radius);
+    painter.drawPixmap(place.topLeft(), headPicture);
 }

@@ -3,6 +3,7 @@
 
 #include "fontsizes.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
@@ -74,6 +75,11 @@ void TranslucentWindow::cover() {
 }
 
 void TranslucentWindow::showEvent(QShowEvent *event) {
+    // A pop-up would keep the first press and every key for itself.
+    while (QWidget *const popup = QApplication::activePopupWidget()) {
+        if (!popup->close())
+            break;
+    }
     cover();
     QDialog::showEvent(event);
 }
