@@ -2,6 +2,7 @@
 #include "commandline.h"
 #include "framebuffer.h"
 #include "installation.h"
+#include "power/keyfilter.h"
 #include "ui/launcherwindow.h"
 
 #include <palettefactory.h>
@@ -58,8 +59,12 @@ int main(int argc, char *argv[]) {
     dress();
 
     LauncherWindow window;
+    KeyFilter keyFilter(&window);
+    QWSServer::addKeyboardFilter(&keyFilter);
     window.resize(screenWidth, fbHeight());
     window.show();
     QApplication::setOverrideCursor(Qt::BlankCursor);
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    QWSServer::removeKeyboardFilter();
+    return status;
 }

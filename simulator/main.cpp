@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "batterycommand.h"
 #include "cardcommand.h"
 
 #include <iostream>
@@ -9,6 +10,8 @@ int main(int argc, char *argv[]) {
         words.append(QString::fromLocal8Bit(argv[i]));
     if (words.value(0) == QLatin1String("card"))
         return runCardCommand(words.mid(1), argc, argv);
-    std::cerr << qPrintable(cardCommandHelp());
+    if (words.value(0) == QLatin1String("battery"))
+        return runBatteryCommand(words.mid(1), argc, argv);
+    std::cerr << qPrintable(cardCommandHelp()) << '\n' << qPrintable(batteryCommandHelp());
     return 2;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/ui_launcherwindow.h"
 
+#include "power/batteryindicator.h"
+
 #include <ledpanel.h>
 #include <popuplabel.h>
 #include <pressinglabel.h>
@@ -77,6 +79,13 @@ void Ui_LauncherWindow::setupLeftColumn(QWidget *window) {
     ledPanel->setContentsMargins(0, 0, 0, 3);
     verticalLayout_2->addWidget(ledPanel);
 
+    labelBattery = named(new BatteryIndicator(window), u"labelBattery"_s);
+    labelBattery->setEnabled(true);
+    labelBattery->setAlignment(Qt::AlignCenter);
+    labelBattery->setMargin(0);
+    labelBattery->setIndent(0);
+    verticalLayout_2->addWidget(labelBattery);
+
     labelReport = named(new PopupLabel(window, nullptr), u"labelReport"_s);
     labelReport->setEnabled(true);
     labelReport->setPixmap(QPixmap(u":/main/resources/saverpt.png"_s));
@@ -119,6 +128,8 @@ void Ui_LauncherWindow::setupStack(QWidget *window) {
 
 void Ui_LauncherWindow::retranslateUi(QWidget *window) {
     window->setWindowTitle(translated(QT_TRANSLATE_NOOP("LauncherWindow", "Dialog")));
+    labelBattery->setWhatsThis(translated(QT_TRANSLATE_NOOP("LauncherWindow", "Battery level indication.")));
+    labelBattery->setText(QString());
     // The report label explains itself with the battery's text; the catalogues know it that way.
     labelReport->setWhatsThis(translated(QT_TRANSLATE_NOOP("LauncherWindow", "Battery level indication.")));
     labelReport->setText(QString());

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+class BatteryIndicator;
 class LedPanel;
 class PopupLabel;
 class PressingLabel;
@@ -17,6 +18,7 @@ public:
     QHBoxLayout *mainHLayout = nullptr;
     QVBoxLayout *verticalLayout_2 = nullptr;
     LedPanel *ledPanel = nullptr;
+    BatteryIndicator *labelBattery = nullptr;
     PopupLabel *labelReport = nullptr;
     PressingLabel *labelSettings = nullptr;
     PressingLabel *labelInfo = nullptr;

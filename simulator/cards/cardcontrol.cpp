@@ -72,7 +72,9 @@ QString CardControl::carryOut(const QStringList &words) {
     const QString verb = words.value(0);
     const QString object = words.value(1);
     if (verb == "remove"_L1) {
+        // Everything is gone before the shell is answered: it may insert the same card again at once.
         cardProcess->remove();
+        server.close();
         QCoreApplication::quit();
     } else if (verb == "alarm"_L1) {
         return setAlarm(object, words.value(2));

@@ -36,7 +36,9 @@ bool PtyPort::listen() {
 
 void PtyPort::shut() {
     notifier.reset();
-    QFile::remove(devicePath);
+    // What has that name later may be another card's.
+    if (ourEnd >= 0)
+        QFile::remove(devicePath);
     for (int *const end : {&ourEnd, &theirEnd}) {
         if (*end >= 0)
             ::close(*end);
