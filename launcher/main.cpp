@@ -63,6 +63,8 @@ int main(int argc, char *argv[]) {
     QWSServer::addKeyboardFilter(&keyFilter);
     window.resize(screenWidth, fbHeight());
     window.show();
+    // Where no window manager gives it the keys.
+    window.activateWindow();
     QApplication::setOverrideCursor(Qt::BlankCursor);
     const int status = QApplication::exec();
     QWSServer::removeKeyboardFilter();

@@ -29,6 +29,55 @@
     </message>
 </context>
 <context>
+    <name>BatteryIndicator</name>
+    <message>
+        <source>min</source>
+        <translation>мин</translation>
+    </message>
+    <message>
+        <source>sec</source>
+        <translation>с</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>Charge level:</source>
+        <translation>Уровень заряда:</translation>
+    </message>
+    <message>
+        <source>Remaining time:</source>
+        <translation>Осталось:</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Состояние:</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Заряжается</translation>
+    </message>
+    <message>
+        <source>Battery is absent</source>
+        <translation>Батареи нет</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <comment>charge level</comment>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <comment>remaining time</comment>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>Charge Level:</source>
+        <translation>Уровень заряда:</translation>
+    </message>
+</context>
+<context>
     <name>CardController</name>
     <message>
         <source>Card %1, number %2, command &quot;%3&quot;</source>
@@ -241,6 +290,21 @@ Tools</source>
     </message>
 </context>
 <context>
+    <name>QObject</name>
+    <message>
+        <source>Do you really mean to power off device?</source>
+        <translation>Вы действительно хотите выключить прибор?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
     <name>QuestionPanel</name>
     <message>
         <source>Yes</source>
@@ -343,6 +407,13 @@ Tools</source>
     <message>
         <source>Not deleted: %1</source>
         <translation>Не удалено: %1</translation>
+    </message>
+</context>
+<context>
+    <name>SoundPlugin</name>
+    <message>
+        <source>Sound</source>
+        <translation>Звук</translation>
     </message>
 </context>
 <context>

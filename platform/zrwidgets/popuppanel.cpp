@@ -61,6 +61,8 @@ void PopupPanel::setContentsRect(const QRect &rect) {
     while (QLayoutItem *const item = panelLayout->takeAt(0))
         delete item;
     panelLayout->setSizeConstraint(QLayout::SetNoConstraint);
+    // What the layout had set when it still had something to lay out.
+    setMinimumSize(0, 0);
     doResize();
 }
 

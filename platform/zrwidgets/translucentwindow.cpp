@@ -82,11 +82,15 @@ void TranslucentWindow::showEvent(QShowEvent *event) {
     }
     cover();
     QDialog::showEvent(event);
+    // Where no window manager does it.
+    activateWindow();
 }
 
 void TranslucentWindow::hideEvent(QHideEvent *event) {
     backdrop = QPixmap();
     QDialog::hideEvent(event);
+    if (coveredWindow() && coveredWindow()->isVisible())
+        coveredWindow()->activateWindow();
 }
 
 bool TranslucentWindow::eventFilter(QObject *watched, QEvent *event) {

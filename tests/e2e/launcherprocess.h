@@ -36,6 +36,9 @@ public:
     QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
     QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
     QStringList leds() { return ask<QStringList>("leds"); }
+    QString shownPopup() { return ask<QString>("shownPopup"); }
+    bool isActive() { return ask<bool>("isActive"); }
+    bool hasPicture(const QString &name) { return ask<bool>("hasPicture", {name}); }
     QString message() { return ask<QString>("message"); }
     QStringList windowSize() { return ask<QStringList>("windowSize"); }
     bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }

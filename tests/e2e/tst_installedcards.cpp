@@ -130,7 +130,8 @@ void InstalledCardsTest::cardThatHangsIsToldAndTheWindowAnswers() {
     QVERIFY2(launcher.start(), launcher.errors());
     card(u"hang e1-301"_s);
     QVERIFY(launcher.press(u"Сигнализация"_s));
-    QTRY_VERIFY2(launcher.message().contains(u"e1, номер 301, команда «operation sa»"_s), qPrintable(launcher.message()));
+    QTRY_VERIFY2(launcher.message().contains(u"e1, номер 301, команда «operation sa»"_s),
+                 qPrintable(launcher.message()));
     QVERIFY(launcher.press(u"ОК"_s));
     // Refused: the old page stays.
     QCOMPARE(launcher.caption(), u"ИКМ"_s);

@@ -85,6 +85,20 @@ QStringList Probe::leds() const {
     return leds;
 }
 
+QString Probe::shownPopup() const {
+    const QWidget *const popup = QApplication::activePopupWidget();
+    return popup ? QString::fromLatin1(popup->metaObject()->className()) : QString();
+}
+
+bool Probe::isActive() const {
+    return QApplication::activeWindow();
+}
+
+bool Probe::hasPicture(const QString &name) const {
+    const auto *const label = LauncherWindow::instance()->findChild<QLabel *>(name);
+    return label && !label->pixmap().isNull();
+}
+
 QString Probe::message() const {
     const QWidget *const dialog = QApplication::activeModalWidget();
     const auto *const text = dialog ? dialog->findChild<QTextEdit *>() : nullptr;

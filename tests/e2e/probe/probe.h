@@ -22,6 +22,11 @@ public slots:
     QStringList iconTexts() const;
     /// Names of the lamps in the left column, each followed by a colon and its quality as a number.
     QStringList leds() const;
+    /// Class of the pop-up that is open.
+    QString shownPopup() const;
+    bool isActive() const;
+    /// Whether the label of that name shows a picture.
+    bool hasPicture(const QString &name) const;
     /// Text of the topmost message that is open.
     QString message() const;
     bool isVisible(const QString &name) const;
