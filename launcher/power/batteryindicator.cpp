@@ -61,6 +61,7 @@ BatteryIndicator::BatteryIndicator(QWidget *parent)
     setCaption(1, tr("Remaining time:"), black);
     setCaption(2, tr("Status:"), black);
     panel.addToLayout(textTable);
+    panel.setHeadOnDark(true);
     reader.start();
 }
 

@@ -64,6 +64,8 @@ void PopupPanel::setContentsRect(const QRect &rect) {
     // What the layout had set when it still had something to lay out.
     setMinimumSize(0, 0);
     doResize();
+    if (isVisible())
+        takeBackdrop();
 }
 
 int PopupPanel::shadowWidth() const {
@@ -124,10 +126,14 @@ void PopupPanel::clipToCaller() {
 
 void PopupPanel::showEvent(QShowEvent *event) {
     doResize();
-    // What lies under the shadow: a window cannot be translucent without a compositor.
+    takeBackdrop();
+    QWidget::showEvent(event);
+}
+
+/// What lies under shadow and corners: a window cannot be translucent without a compositor.
+void PopupPanel::takeBackdrop() {
     QWidget *const below = parentWidget() ? parentWidget()->window() : QApplication::activeWindow();
     backdrop = below && below != this ? below->grab(QRect(below->mapFromGlobal(pos()), size())) : QPixmap();
-    QWidget::showEvent(event);
 }
 
 void PopupPanel::paintEvent(QPaintEvent *) {

@@ -43,6 +43,7 @@ private:
     QRect bounds() const;
     int shadowWidth() const;
     void clipToCaller();
+    void takeBackdrop();
 
     QVBoxLayout *panelLayout;
     QRect callerRectangle;

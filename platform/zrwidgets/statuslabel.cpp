@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int rowHeight = 38;
@@ -12,6 +14,11 @@ constexpr int sidePadding = 8;
 constexpr int columnGap = 16;
 constexpr int mostColumns = 16;
 constexpr int mostRows = 64;
+
+template <typename Row>
+bool isEmptyRow(const Row &row) {
+    return std::all_of(row.cbegin(), row.cend(), [](const auto &cell) { return cell.text.isEmpty(); });
+}
 
 } // namespace
 
@@ -49,17 +56,24 @@ QSize StatusLabel::sizeHint() const {
     int width = 0;
     for (const Row &row : rows)
         width = qMax(width, widthOf(row));
-    return {width, rowHeight * int(rows.size())};
+    return {width, heightNeeded()};
 }
 
 QSize StatusLabel::minimumSizeHint() const {
-    return {2 * sidePadding, rowHeight * int(rows.size())};
+    return {2 * sidePadding, heightNeeded()};
+}
+
+int StatusLabel::heightNeeded() const {
+    return rowHeight *
+           int(std::count_if(rows.cbegin(), rows.cend(), [](const Row &row) { return !isEmptyRow(row); }));
 }
 
 void StatusLabel::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     QRect rowRect(0, 0, width(), rowHeight);
     for (const Row &row : rows) {
+        if (isEmptyRow(row))
+            continue;
         drawRow(painter, row, rowRect.adjusted(sidePadding, 0, -sidePadding, 0));
         painter.fillRect(QRect(0, rowRect.bottom(), width(), 1), palette().mid());
         rowRect.translate(0, rowHeight);

@@ -14,7 +14,7 @@ public:
     explicit StatusLabel(QWidget *parent = nullptr);
 
     /// Sets one cell; the table grows as far as needed, up to 16 columns and 64 rows, beyond which a cell is
-    /// passed over. An empty text takes no space. `minimumWidth` is that of the cell in pixels, `isSoft` sets
+    /// passed over. An empty text takes no space, nor does a row of them. `minimumWidth` is that of the cell in pixels, `isSoft` sets
     /// the text lighter.
     void setCell(int column, int row, Qt::Alignment alignment, const QString &text, const QColor &color,
                  int minimumWidth, bool isSoft);
@@ -40,6 +40,7 @@ private:
     QFont fontOf(const Cell &cell) const;
     int widthOf(const Cell &cell) const;
     int widthOf(const Row &row) const;
+    int heightNeeded() const;
     void drawRow(QPainter &painter, const Row &row, const QRect &rect) const;
 
     QMap<int, Row> rows;

@@ -21,6 +21,11 @@ void StatusPanel::setPixmap(const QPixmap &pixmap) {
     update();
 }
 
+void StatusPanel::setHeadOnDark(bool onDark) {
+    headIsOnDark = onDark;
+    update();
+}
+
 void StatusPanel::invoke(const QRect &callerRect) {
     setCallerRect(callerRect);
     show();
@@ -37,9 +42,10 @@ void StatusPanel::paintEvent(QPaintEvent *event) {
                       qRound(headPicture.deviceIndependentSize().height()));
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Pictures are drawn for the dark column that they come from.
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().brush(QPalette::Active, QPalette::Button));
-    painter.drawRoundedRect(place.adjusted(-groundPadding, 0, groundPadding, 0), radius, radius);
+    if (headIsOnDark) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(palette().brush(QPalette::Active, QPalette::Button));
+        painter.drawRoundedRect(place.adjusted(-groundPadding, 0, groundPadding, 0), radius, radius);
+    }
     painter.drawPixmap(place.topLeft(), headPicture);
 }

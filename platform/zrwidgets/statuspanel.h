@@ -15,6 +15,8 @@ public:
     /// The picture at the head; a null one takes it away.
     void setPixmap(const QPixmap &pixmap);
     QPixmap pixmap() const { return headPicture; }
+    /// Puts the picture on a dark ground, for pictures that are drawn for the dark column.
+    void setHeadOnDark(bool onDark);
 
     /// Opens the panel beside `callerRect`, which is in screen coordinates.
     void invoke(const QRect &callerRect);
@@ -24,4 +26,5 @@ protected:
 
 private:
     QPixmap headPicture;
+    bool headIsOnDark = false;
 };

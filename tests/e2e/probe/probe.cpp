@@ -90,6 +90,11 @@ QString Probe::shownPopup() const {
     return popup ? QString::fromLatin1(popup->metaObject()->className()) : QString();
 }
 
+void Probe::closePopup() const {
+    if (QWidget *const popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
 bool Probe::isActive() const {
     return QApplication::activeWindow();
 }

@@ -24,6 +24,7 @@ public slots:
     QStringList leds() const;
     /// Class of the pop-up that is open.
     QString shownPopup() const;
+    void closePopup() const;
     bool isActive() const;
     /// Whether the label of that name shows a picture.
     bool hasPicture(const QString &name) const;
