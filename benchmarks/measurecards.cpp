@@ -105,11 +105,11 @@ void measureUpdate(FakeCard &card, PaintWatch &watch) {
 }
 
 /// The longest time that an input event would have waited during a second of updates.
-double longestWait(FakeCard &card, int updatesPerSecond) {
+double longestWait(FakeCard &card, int updatesPerSecond, qint64 &sent) {
     std::atomic<bool> goesOn = true;
     std::thread sender([&] {
         const auto start = std::chrono::steady_clock::now();
-        for (qint64 sent = 0; goesOn; ++sent) {
+        for (sent = 0; goesOn; ++sent) {
             card.sendUpdate(update(24, sent % 2 ? "none" : "present"));
             std::this_thread::sleep_until(start + (sent + 1) * 1'000'000us / updatesPerSecond);
         }
@@ -133,9 +133,12 @@ double longestWait(FakeCard &card, int updatesPerSecond) {
 }
 
 void measureRate(FakeCard &card) {
-    for (const int rate : {100, 1000, 3000, 10000, 30000})
-        std::printf("%6d updates a second of 24 LEDs: an input event waits %7.2f ms at most\n", rate,
-                    longestWait(card, rate));
+    for (const int rate : {100, 1000, 3000, 10000, 30000}) {
+        qint64 sent = 0;
+        const double longest = longestWait(card, rate, sent);
+        std::printf("%6lld updates a second of 24 LEDs: an input event waits %7.2f ms at most\n",
+                    static_cast<long long>(sent), longest);
+    }
 }
 
 void measurePanel(LauncherWindow &window, PaintWatch &watch) {

@@ -51,7 +51,8 @@ std::optional<QStringList> cardInfoFiles(const QString &directory) {
     if (!dir.exists())
         return std::nullopt;
     QStringList paths;
-    for (const QString &name : dir.entryList({u"*.info"_s}, QDir::NoFilter, QDir::Name | QDir::IgnoreCase))
+    for (const QString &name :
+         dir.entryList({u"*.info"_s}, QDir::AllEntries | QDir::System, QDir::Name | QDir::IgnoreCase))
         paths.append(dir.filePath(name));
     return paths;
 }

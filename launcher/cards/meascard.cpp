@@ -11,7 +11,18 @@
 #include <dataproxy.h>
 #include <warningwindow.h>
 
+#include <QElapsedTimer>
+
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto restAfterFailure = 15s;
+constexpr qint64 quickReadingMs = 100;
+constexpr int restFactor = 10;
+
+} // namespace
 
 MeasCard::MeasCard(const QString &name, int serial, const QString &iface, const QString &updates,
                    CardsManager *manager)
@@ -37,7 +48,13 @@ MeasCard::MeasCard(const QString &name, int serial, const QString &iface, const 
 
 MeasCard::~MeasCard() {
     LauncherWindow::instance()->rmCardPage(this);
-    if (freeCollections() || controller->outlivesCards()) {
+    const bool onePersists = freeCollections();
+    // A page that stays must not go on showing alarms of a card that is gone.
+    if (onePersists) {
+        disconnect(LauncherWindow::instance());
+        LauncherWindow::instance()->showCurrentLeds();
+    }
+    if (onePersists || controller->outlivesCards()) {
         // Plug-ins of a collection that stays may hold the controller: it is kept for the next card of this type.
         controller->freeCard();
         static_cast<void>(controller.release());
@@ -52,11 +69,8 @@ bool MeasCard::freeCollections() {
     for (CardPluginsCollection *const collection : std::as_const(cardCollections)) {
         if (collection->persistent()) {
             // Another card of this type may have been bound since.
-            if (collection->measCard() == this) {
-                // The page stays, but must not go on showing alarms of a card that is gone.
-                emit setupLeds(QStringList());
+            if (collection->measCard() == this)
                 collection->freeMeasCard();
-            }
             onePersists = true;
         } else {
             delete collection;
@@ -124,7 +138,9 @@ void MeasCard::resetLeds() {
 }
 
 QStringList MeasCard::readLedsNames() {
-    return ledNamesIn(controller->doCommand(u"status alarms"_s));
+    ControllerCommand command(u"status alarms"_s, false);
+    namesAreKnown = controller->doCommand(command) >= 0;
+    return ledNamesIn(command.reply());
 }
 
 QList<QPair<QString, QString>> MeasCard::ledsStates(const QVariantMap &data) const {
@@ -139,12 +155,26 @@ void MeasCard::promptRedrawLeds() {
 
 void MeasCard::redrawLeds(QVariantMap &data) {
     const QStringList keys = data.keys();
-    if (keys != ledKeys) {
+    if (keys != ledKeys && nextSetup.hasExpired()) {
         ledKeys = keys;
-        emit setupLeds(readLedsNames());
+        setUpLeds();
     }
     QList<QPair<QString, QString>> states = ledsStates(data);
     emit updateLeds(states);
+}
+
+/// Asking for the names stops the window as long as the card takes. A card that is slow, or silent, is given a rest before the
+/// next update with other keys asks it again.
+void MeasCard::setUpLeds() {
+    QElapsedTimer reading;
+    reading.start();
+    emit setupLeds(readLedsNames());
+    if (!namesAreKnown) {
+        ledKeys.clear();
+        nextSetup = QDeadlineTimer(restAfterFailure);
+    } else if (reading.elapsed() > quickReadingMs) {
+        nextSetup = QDeadlineTimer(restFactor * reading.elapsed());
+    }
 }
 
 WarningWindow *MeasCard::warning() {

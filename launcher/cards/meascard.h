@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QList>
 #include <QObject>
 #include <QPair>
@@ -62,6 +63,7 @@ protected slots:
 private:
     void readIdentification();
     bool freeCollections();
+    void setUpLeds();
 
     QList<CardPluginsCollection *> cardCollections;
     std::unique_ptr<CardController> controller;
@@ -74,6 +76,8 @@ private:
     bool isDualMode = false;
     QString currentMode;
     QStringList ledKeys;
+    bool namesAreKnown = false;
+    QDeadlineTimer nextSetup{0};
     QString options;
     QString versions;
     QString hardwareRevision;

@@ -77,7 +77,7 @@ void BatteryIndicator::showPanel() {
     panel.raise();
 }
 
-void BatteryIndicator::redrawFromApmData(ApmInfo data) {
+void BatteryIndicator::redrawFromApmData(const ApmInfo &data) {
     levelColor = getColorFromApmInfo(data);
     redrawPixmap(data);
     redrawStatusLabel(data);

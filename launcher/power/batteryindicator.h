@@ -25,7 +25,7 @@ public:
     ~BatteryIndicator() override;
 
 public slots:
-    void redrawFromApmData(ApmInfo data);
+    void redrawFromApmData(const ApmInfo &data);
     void showPanel();
 
 private:

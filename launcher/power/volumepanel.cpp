@@ -19,10 +19,11 @@ constexpr auto longestListing = 1000ms;
 constexpr qsizetype mostListingBytes = 16 * 1024 * 1024;
 constexpr int highestLevel = 100;
 
-/// What amixer lists; empty when it does not end in time, or lists without end.
+/// What amixer lists; empty when it fails, does not end in time, or lists without end.
 QByteArray mixerListing() {
     const QDeadlineTimer deadline(longestListing);
     QProcess mixer;
+    mixer.setStandardErrorFile(QProcess::nullDevice());
     mixer.start(u"amixer"_s, QStringList(), QIODevice::ReadWrite);
     QByteArray listing;
     while (mixer.state() != QProcess::NotRunning && !deadline.hasExpired() &&
@@ -30,11 +31,13 @@ QByteArray mixerListing() {
         mixer.waitForReadyRead(static_cast<int>(deadline.remainingTime()));
         listing += mixer.readAllStandardOutput();
     }
-    if (mixer.state() == QProcess::NotRunning)
-        return listing + mixer.readAllStandardOutput();
-    mixer.kill();
-    mixer.waitForFinished();
-    return {};
+    if (mixer.state() != QProcess::NotRunning) {
+        mixer.kill();
+        mixer.waitForFinished();
+        return {};
+    }
+    const bool succeeded = mixer.exitStatus() == QProcess::NormalExit && mixer.exitCode() == 0;
+    return succeeded ? listing + mixer.readAllStandardOutput() : QByteArray();
 }
 
 } // namespace

@@ -198,6 +198,11 @@ void LauncherWindow::rmCardPage(MeasCard *card) {
     rmCollectionPages({collections.cbegin(), collections.cend()});
 }
 
+void LauncherWindow::showCurrentLeds() {
+    if (currentCollection)
+        currentCollection->connectLeds();
+}
+
 void LauncherWindow::rmCollectionPages(const QList<PluginsCollection *> &collections) {
     bool currentWasRemoved = false;
     for (PluginsCollection *const collection : collections) {

@@ -59,6 +59,8 @@ public:
     void newCollectionPage(PluginsCollection *collection);
     /// Takes the pages of a card that goes out of the window, but for those that stay.
     void rmCardPage(MeasCard *card);
+    /// Shows the LEDs of the current page's own card again, or none.
+    void showCurrentLeds();
     /// Unloads those of `collections` that are not persistent and takes their pages out. When the current one
     /// was among them, the first remaining collection takes the screen.
     void rmCollectionPages(const QList<PluginsCollection *> &collections);

@@ -19,6 +19,7 @@ public:
     /// Takes `widget` over and hands it back.
     template <typename Widget>
     Widget *add(Widget *widget) {
+        widgets.removeAll(QPointer<QWidget>());
         widgets.append(widget);
         return widget;
     }

@@ -3,6 +3,7 @@
 
 #include "commandchannel.h"
 #include "controllercommand.h"
+#include "controllerlog.h"
 #include "dataproxy.h"
 #include "updatechannel.h"
 
@@ -144,6 +145,7 @@ void CardController::tellError(const QString &text, const QString &command) {
         return;
     lastError = text;
     lastErrorTime = now;
+    qCWarning(controllerLog).noquote() << cardName << cardSerial << command << ':' << text;
     const QString detail = tr("Card %1, number %2, command \"%3\"").arg(cardName, cardSerial, command);
     // Later, from the event loop: whoever opens the card connects to the signal only afterwards.
     QMetaObject::invokeMethod(
@@ -156,8 +158,11 @@ DataProxy *CardController::dataProxy(const QString &name, MeasProcessor *process
             return proxy;
     }
     auto *const proxy = new (std::nothrow) DataProxy(name, processor, this);
-    if (proxy && updates)
+    if (proxy && updates) {
+        // What was told before there was a proxy for it is told again.
+        updates->request();
         updates->open();
+    }
     return proxy;
 }
 

@@ -4,6 +4,7 @@
 #include "controllerlog.h"
 
 #include <QIODevice>
+#include <QRandomGenerator>
 #include <QScopedValueRollback>
 
 using namespace Qt::Literals::StringLiterals;
@@ -65,7 +66,8 @@ bool CommandChannel::open(QDeadlineTimer deadline) {
 }
 
 bool CommandChannel::repeatNumber(QDeadlineTimer deadline) {
-    const QString number = QString::number(++lastNumber);
+    // One that no reply to anything else is.
+    const QString number = QString::number(QRandomGenerator::global()->generate64());
     if (!write("repeat "_L1 + number, deadline))
         return false;
     while (true) {

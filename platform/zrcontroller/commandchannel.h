@@ -62,6 +62,5 @@ private:
     std::unique_ptr<ReplyReader> owedReply;
     QDeadlineTimer leftAloneUntil{0};
     bool mustRepeatNumber = false;
-    int lastNumber = 0;
     qint64 unaskedBytes = 0;
 };

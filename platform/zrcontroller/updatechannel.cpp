@@ -27,7 +27,7 @@ UpdateChannel::UpdateChannel(const QString &address, QObject *parent)
     reopening.setSingleShot(true);
     connect(&reopening, &QTimer::timeout, this, &UpdateChannel::open);
     // A card on a serial line cannot see that somebody listens now; an empty line asks for the states.
-    connect(line.get(), &CardLine::opened, this, [this] { line->device()->write("\n"); });
+    connect(line.get(), &CardLine::opened, this, &UpdateChannel::request);
     connect(line.get(), &CardLine::closed, this, &UpdateChannel::reopenLater);
     connect(line->device(), &QIODevice::readyRead, this, &UpdateChannel::read);
 }
@@ -41,6 +41,11 @@ UpdateChannel::~UpdateChannel() {
 void UpdateChannel::open() {
     if (line && !line->isOpen())
         line->beginOpening();
+}
+
+void UpdateChannel::request() {
+    if (line && line->isOpen())
+        line->device()->write("\n");
 }
 
 void UpdateChannel::read() {

@@ -20,6 +20,8 @@ public:
     ~UpdateChannel() override;
 
     void open();
+    /// Asks the card for the states of all streams; it is asked by itself when the line has been opened.
+    void request();
     /// Takes what has arrived, without waiting for the event loop to come round to it.
     void takeWaiting();
     /// Waits for one more update without running an event loop. False when none came in time.

@@ -4,8 +4,6 @@
 // The platform's own delivery of input. An event filter of the application comes too late: shortcuts go first.
 #include <qpa/qwindowsysteminterface_p.h>
 
-#include <memory>
-
 namespace {
 
 using PrivateInterface = QWindowSystemInterfacePrivate;
@@ -39,12 +37,9 @@ private:
     std::function<bool(const PlatformKey &)> isConsumed;
 };
 
-std::unique_ptr<KeyboardTap> tap;
-
 } // namespace
 
 void tapKeyboard(const std::function<bool(const PlatformKey &)> &isConsumed) {
-    tap.reset();
-    if (isConsumed)
-        tap = std::make_unique<KeyboardTap>(isConsumed);
+    // Left to the end of the process: Qt may deliver keys until then.
+    new KeyboardTap(isConsumed);
 }

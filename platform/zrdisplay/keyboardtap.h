@@ -12,6 +12,6 @@ struct PlatformKey {
     bool isAutoRepeat;
 };
 
-/// Shows every key event to `isConsumed` before Qt looks at it; true ends the event there. There is one tap; null takes it
-/// off. GUI thread only.
+/// Shows every key event to `isConsumed` before Qt looks at it, for as long as the process runs; true ends the event there.
+/// To be called once. GUI thread only.
 void tapKeyboard(const std::function<bool(const PlatformKey &)> &isConsumed);

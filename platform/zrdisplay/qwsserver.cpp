@@ -8,6 +8,7 @@
 #include <QList>
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -32,17 +33,16 @@ bool pointerIsHidden() {
 QWSServer::KeyboardFilter::~KeyboardFilter() = default;
 
 void QWSServer::addKeyboardFilter(KeyboardFilter *filter) {
-    filters.append(filter);
-    if (filters.size() == 1)
+    // The tap stays for good: a filter may remove itself, or others, while it is being asked.
+    static bool isTapped = false;
+    if (!std::exchange(isTapped, true))
         tapKeyboard(isConsumed);
+    filters.append(filter);
 }
 
 void QWSServer::removeKeyboardFilter() {
-    if (filters.isEmpty())
-        return;
-    filters.removeLast();
-    if (filters.isEmpty())
-        tapKeyboard(nullptr);
+    if (!filters.isEmpty())
+        filters.removeLast();
 }
 
 void QWSServer::setCursorVisible(bool visible) {

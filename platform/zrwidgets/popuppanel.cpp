@@ -64,8 +64,6 @@ void PopupPanel::setContentsRect(const QRect &rect) {
     // What the layout had set when it still had something to lay out.
     setMinimumSize(0, 0);
     doResize();
-    if (isVisible())
-        takeBackdrop();
 }
 
 int PopupPanel::shadowWidth() const {
@@ -103,6 +101,7 @@ QRect PopupPanel::bounds() const {
 }
 
 void PopupPanel::doResize() {
+    const QRect before = geometry();
     panelLayout->activate();
     const QSize laidOut = sizeHint().expandedTo(minimumSize());
     const QSize size = fixedContents.isEmpty() ? laidOut : fixedContents.size();
@@ -114,6 +113,8 @@ void PopupPanel::doResize() {
                             bounds().marginsRemoved({4, 4, 4, 4}))
                     .marginsAdded(shadow));
     clipToCaller();
+    if (isVisible() && geometry() != before)
+        takeBackdrop();
 }
 
 void PopupPanel::clipToCaller() {

@@ -34,6 +34,10 @@ void RoundSlider::moveTo(int position) {
     setPosition(qBound(0, position, highest));
 }
 
+void RoundSlider::moveBy(int difference) {
+    moveTo(qBound(0, currentPosition, highest) + difference);
+}
+
 qreal RoundSlider::handleX() const {
     const qreal way = width() - 2 * (handleRadius + focusRingWidth);
     return handleRadius + focusRingWidth + way * qBound(0, currentPosition, highest) / highest;
@@ -80,16 +84,16 @@ void RoundSlider::mouseReleaseEvent(QMouseEvent *) {
 void RoundSlider::keyPressEvent(QKeyEvent *event) {
     switch (event->key()) {
     case Qt::Key_Left:
-        moveTo(currentPosition - step);
+        moveBy(-step);
         break;
     case Qt::Key_Right:
-        moveTo(currentPosition + step);
+        moveBy(step);
         break;
     case Qt::Key_PageDown:
-        moveTo(currentPosition - pageStep);
+        moveBy(-pageStep);
         break;
     case Qt::Key_PageUp:
-        moveTo(currentPosition + pageStep);
+        moveBy(pageStep);
         break;
     case Qt::Key_End:
         moveTo(highest);
@@ -100,5 +104,6 @@ void RoundSlider::keyPressEvent(QKeyEvent *event) {
 }
 
 void RoundSlider::wheelEvent(QWheelEvent *event) {
-    moveTo(currentPosition + (event->angleDelta().y() > 0 ? step : -step));
+    if (const int turned = event->angleDelta().y(); turned != 0)
+        moveBy(turned > 0 ? step : -step);
 }

@@ -31,6 +31,7 @@ protected:
 
 private:
     void moveTo(int position);
+    void moveBy(int difference);
     int positionAt(qreal x) const;
     qreal handleX() const;
 

@@ -89,8 +89,21 @@ void TranslucentWindow::showEvent(QShowEvent *event) {
 void TranslucentWindow::hideEvent(QHideEvent *event) {
     backdrop = QPixmap();
     QDialog::hideEvent(event);
-    if (coveredWindow() && coveredWindow()->isVisible())
-        coveredWindow()->activateWindow();
+    giveKeysBack();
+}
+
+void TranslucentWindow::giveKeysBack() {
+    QWidget *const covered = coveredWindow();
+    if (!covered || !covered->isVisible())
+        return;
+    // When Qt has left our modal state, and perhaps we are deleted: another message may still be open.
+    QMetaObject::invokeMethod(
+        covered,
+        [covered] {
+            QWidget *const modal = QApplication::activeModalWidget();
+            (modal ? modal : covered)->activateWindow();
+        },
+        Qt::QueuedConnection);
 }
 
 bool TranslucentWindow::eventFilter(QObject *watched, QEvent *event) {

@@ -41,6 +41,7 @@ protected:
 private:
     QWidget *coveredWindow() const;
     void cover();
+    void giveKeysBack();
 
     QVBoxLayout *contentsLayout;
     QSize freeMargins;

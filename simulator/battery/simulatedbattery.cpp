@@ -36,7 +36,7 @@ SimulatedBattery SimulatedBattery::stored() {
         return {Discharging, fullPercentage};
     const QList<QByteArray> columns = file.readLine().trimmed().split(' ');
     constexpr int base = 16;
-    const int percentage = columns.value(6).chopped(1).toInt();
+    const int percentage = columns.value(6).replace("%", "").toInt();
     switch (columns.value(4).mid(2).toInt(nullptr, base)) {
     case ChargingStatus:
         return {Charging, percentage};
@@ -61,6 +61,8 @@ QString SimulatedBattery::store() const {
 }
 
 void SimulatedBattery::step() {
+    if (currentPercentage < 0)
+        return;
     if (currentState == Charging)
         currentPercentage = qMin(fullPercentage, currentPercentage + 1);
     else if (currentState == Discharging)

@@ -33,8 +33,11 @@ void LocalPort::hangUp() {
 }
 
 void LocalPort::send(const QByteArray &bytes) {
-    if (peer)
-        peer->write(bytes);
+    if (!peer)
+        return;
+    peer->write(bytes);
+    // Hanging up drops what still waits.
+    peer->flush();
 }
 
 void LocalPort::answer() {

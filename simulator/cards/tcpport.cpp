@@ -35,8 +35,11 @@ void TcpPort::hangUp() {
 }
 
 void TcpPort::send(const QByteArray &bytes) {
-    if (peer)
-        peer->write(bytes);
+    if (!peer)
+        return;
+    peer->write(bytes);
+    // Hanging up drops what still waits.
+    peer->flush();
 }
 
 void TcpPort::answer() {

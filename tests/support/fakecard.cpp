@@ -69,6 +69,10 @@ void FakeCard::setUpdateAfter(const QByteArray &command, const QByteArray &bytes
     inThread([&] { updatesAfter.insert(command, bytes); });
 }
 
+void FakeCard::setUpdateOnRequest(const QByteArray &bytes) {
+    inThread([&] { updateOnRequest = bytes; });
+}
+
 void FakeCard::setSingleBytes(bool on) {
     inThread([&] { sendsSingleBytes = on; });
 }
@@ -209,8 +213,10 @@ void FakeCard::read(Line &line) {
         return;
     }
     line.received.append(buffer.data(), length);
-    if (&line != &commandLine)
+    if (&line != &commandLine) {
+        writeAll(line.peer, updateOnRequest);
         return;
+    }
     while (line.received.contains('\n')) {
         const qsizetype lineFeed = line.received.indexOf('\n');
         const QByteArray command = line.received.first(lineFeed);

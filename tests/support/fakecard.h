@@ -31,6 +31,8 @@ public:
     void setRawReply(const QByteArray &command, const QByteArray &bytes);
     /// Sends `bytes` on the update line after each reply to `command`.
     void setUpdateAfter(const QByteArray &command, const QByteArray &bytes);
+    /// Answers each empty line on the update line with these bytes.
+    void setUpdateOnRequest(const QByteArray &bytes);
     /// Sends every reply in single bytes.
     void setSingleBytes(bool on);
     /// Hangs up after the next reply.
@@ -80,6 +82,7 @@ private:
     Line updateLine;
     QHash<QByteArray, QByteArray> replies;
     QHash<QByteArray, QByteArray> updatesAfter;
+    QByteArray updateOnRequest;
     QList<QByteArray> receivedCommands;
     QList<QByteArray> heldReplies;
     bool holds = false;

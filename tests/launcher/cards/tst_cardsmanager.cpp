@@ -137,6 +137,7 @@ void CardsManagerTest::badInfoFilesAreToldAndPassedOver() {
     putInfoFile(u"a.info"_s, "");
     putInfoFile(u"b.info"_s, "e1\n1\nx");
     QVERIFY(QDir(qEnvironmentVariable("ZR_SYSROOT") + "/tmp/tester"_L1).mkdir(u"c.info"_s));
+    QVERIFY(QFile::link(u"/nowhere"_s, qEnvironmentVariable("ZR_SYSROOT") + "/tmp/tester/e.info"_L1));
     putInfoFile(u"d.info"_s, infoOf("gbe\n2", card));
     DebugLines debug;
     const LauncherWindow window;
@@ -144,6 +145,7 @@ void CardsManagerTest::badInfoFilesAreToldAndPassedOver() {
     QVERIFY(debug.lines().contains(u"QList(\"\")  is not enough"_s));
     QVERIFY(debug.lines().contains(u"QList(\"e1\", \"1\", \"x\")  is not enough"_s));
     QCOMPARE(debug.lines().filter(u"Can't open file  \""_s).filter(u"/c.info\""_s).size(), 1);
+    QCOMPARE(debug.lines().filter(u"Can't open file  \""_s).filter(u"/e.info\""_s).size(), 1);
 }
 
 void CardsManagerTest::missingInfoDirectoryIsTold() {

@@ -36,6 +36,8 @@ private slots:
     void singleModeCardIsNeverSwitched();
     void refusedModeRefusesThePage();
     void sameKeysOnlyUpdateNewKeysSetUpFirst();
+    void namesThatCouldNotBeReadAreAskedForAgain();
+    void slowCardIsNotAskedWithEveryUpdate();
     void promptTellsNamesTwiceAtFirst();
     void ledsReachThePanel();
     void resetIsSentAndItsUpdateShown();
@@ -202,6 +204,41 @@ void MeasCardTest::sameKeysOnlyUpdateNewKeysSetUpFirst() {
     QCOMPARE(signalNames,
              QStringList({u"setup LOS,AIS"_s, u"update AIS=none LOS=none"_s, u"update AIS=none LOS=present"_s,
                           u"setup LOS,AIS"_s, u"update LOS=present"_s}));
+}
+
+void MeasCardTest::namesThatCouldNotBeReadAreAskedForAgain() {
+    FakeCard card;
+    card.setReply("status alarms", "LOS");
+    MeasCard *const measCard = insertCard(card);
+    card.setRawReply("status alarms", "LO");
+    card.hangUpAfterReply();
+    QVariantMap data{{u"LOS"_s, u"none"_s}};
+    QMetaObject::invokeMethod(measCard, "redrawLeds", Q_ARG(QVariantMap &, data));
+    QVERIFY(ledPanelOf(*window)->names().isEmpty());
+    // Entering the page asks at once, whatever happened before.
+    card.setReply("status alarms", "LOS");
+    measCard->promptRedrawLeds();
+    QCOMPARE(ledPanelOf(*window)->names(), QStringList{u"LOS"_s});
+}
+
+void MeasCardTest::slowCardIsNotAskedWithEveryUpdate() {
+    FakeCard card;
+    card.setReply("status alarms", "LOS");
+    MeasCard *const measCard = insertCard(card);
+    const qsizetype before = card.commands().count("status alarms");
+    card.hold();
+    QThread *const releasing = QThread::create([&card] {
+        QThread::msleep(300);
+        card.release();
+    });
+    releasing->start();
+    for (int i = 0; i < 100; ++i) {
+        QVariantMap data{{u"key %1"_s.arg(i % 2), u"none"_s}};
+        QMetaObject::invokeMethod(measCard, "redrawLeds", Q_ARG(QVariantMap &, data));
+    }
+    releasing->wait();
+    delete releasing;
+    QCOMPARE(card.commands().count("status alarms"), before + 1);
 }
 
 void MeasCardTest::promptTellsNamesTwiceAtFirst() {

@@ -29,6 +29,7 @@ private slots:
     void controllerOfACardWithoutPersistentPagesIsDeleted();
     void secondCardOfATypeStaysBoundWhenTheFirstGoes();
     void bothModesMayBePersistent();
+    void ledsOfTheShownCardComeBackWhenAnotherGoes();
     void pageOfACardGoesWithIt();
     void enteringAPageSwitchesTheCard();
     void refusedPageIsNotShown();
@@ -166,6 +167,20 @@ void CardPluginsCollectionTest::secondCardOfATypeStaysBoundWhenTheFirstGoes() {
     QCOMPARE(panel->names(), QStringList{u"SECOND"_s});
     QTest::mouseClick(panel, Qt::LeftButton);
     QCOMPARE(second.commands().last(), QByteArray("status alarms reset"));
+}
+
+void CardPluginsCollectionTest::ledsOfTheShownCardComeBackWhenAnotherGoes() {
+    open(u"zr e1"_s);
+    FakeCard shownCard;
+    shownCard.setReply("status alarms", "LINK");
+    insert(*window, u"gbe"_s, 1, shownCard);
+    FakeCard other;
+    other.setReply("status alarms", "LOS");
+    insert(*window, u"e1"_s, 1, other);
+    QCOMPARE(shown(), u"GbE"_s);
+    QCOMPARE(ledPanelOf(*window)->names(), QStringList{u"LOS"_s});
+    remove(*window, u"e1"_s, 1);
+    QCOMPARE(ledPanelOf(*window)->names(), QStringList{u"LINK"_s});
 }
 
 void CardPluginsCollectionTest::bothModesMayBePersistent() {

@@ -225,18 +225,23 @@ void BatteryIndicatorTest::panelShowsTheTable() {
     QFETCH(QStringList, texts);
     BatteryIndicator indicator;
     indicator.ensurePolished();
+    // Colours that cannot be taken for each other.
+    QPalette palette = indicator.palette();
+    palette.setColor(QPalette::Text, Qt::red);
+    palette.setColor(QPalette::WindowText, Qt::blue);
+    indicator.setPalette(palette);
     indicator.redrawFromApmData(record(status, percentage, time, u"min"_s));
     // The same table, made cell by cell: value cells stand in different columns.
     StatusLabel expected;
     QFont font(u"Liberation Sans"_s, 14, QFont::Bold);
     expected.setFont(font);
-    const QPalette palette = PaletteFactory::getPalette(u"Battery"_s);
     const QList<int> valueColumns{2, 1, 2};
+    const QColor chargeColor = status == ApmInfo::Charging ? Qt::blue : Qt::red;
+    const QList<QColor> valueColors{chargeColor, Qt::blue, Qt::red};
     for (int row = 0; row < 3; ++row) {
-        expected.setCell(0, row, Qt::AlignLeft, texts[row].section(u'|', 0, 0),
-                         palette.color(QPalette::WindowText), 0, false);
+        expected.setCell(0, row, Qt::AlignLeft, texts[row].section(u'|', 0, 0), QColor(Qt::blue), 0, false);
         expected.setCell(valueColumns[row], row, Qt::AlignRight, texts[row].section(u'|', 1),
-                         palette.color(QPalette::Text), 0, false);
+                         valueColors[row], 0, false);
     }
     auto *const table = panelOf(indicator)->findChild<StatusLabel *>();
     QVERIFY(table);

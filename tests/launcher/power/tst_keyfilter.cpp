@@ -14,6 +14,7 @@
 
 #include <memory>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,6 +36,9 @@ private slots:
     void powerQuestionIsAnswered();
     void powerKeyDuringItsQuestionIsIgnored();
     void powerKeyClosesAnOpenPopup();
+    void messageUnderTheQuestionGetsTheKeysBack();
+    void burstOfKeysIsWorkedOff();
+    void brightnessFileWithoutRightsChangesNothing();
     void refusedQuestionIsAskedAgain();
 
 private:
@@ -218,6 +222,56 @@ void KeyFilterTest::powerKeyClosesAnOpenPopup() {
     QVERIFY(panel.isVisible());
     askWhile([&] { answer(u"No"_s); });
     QVERIFY(!panel.isVisible());
+}
+
+void KeyFilterTest::messageUnderTheQuestionGetsTheKeysBack() {
+    auto *const message = new WarningWindow(window.get());
+    message->show(u"Line is down"_s, QString());
+    QVERIFY(QTest::qWaitForWindowActive(message));
+    askWhile([&] {
+        for (WarningWindow *const dialog : window->findChildren<WarningWindow *>()) {
+            if (dialog != message)
+                dialog->reject();
+        }
+    });
+    QTRY_COMPARE(QApplication::activeWindow(), message);
+    QTest::keyClick(message->windowHandle(), Qt::Key_Return);
+    QTRY_VERIFY(!message->isVisible());
+}
+
+void KeyFilterTest::burstOfKeysIsWorkedOff() {
+    makeBrightnessFile();
+    for (int i = 0; i < 99; ++i)
+        click(Qt::Key_F3);
+    QCOMPARE(read(brightnessFile()), QByteArray("255"));
+    click(Qt::Key_F3);
+    QCOMPARE(read(brightnessFile()), QByteArray("1"));
+    for (int i = 0; i < 100; ++i)
+        click(Qt::Key_Home);
+    qsizetype questions = 0;
+    askWhile([&] {
+        for (int i = 0; i < 100; ++i)
+            click(Qt::Key_Pause);
+        questions = window->findChildren<WarningWindow *>().size();
+        answer(u"No"_s);
+    });
+    QCOMPARE(questions, 1);
+}
+
+void KeyFilterTest::brightnessFileWithoutRightsChangesNothing() {
+    makeBrightnessFile();
+    QVERIFY(QFile::setPermissions(brightnessFile(), QFile::ReadOwner | QFile::ReadOther));
+    // Root may write everything, so it is somebody else meanwhile.
+    const bool isRoot = ::geteuid() == 0;
+    if (isRoot)
+        QCOMPARE(::seteuid(65534), 0);
+    click(Qt::Key_F3);
+    if (isRoot)
+        QCOMPARE(::seteuid(0), 0);
+    QCOMPARE(read(brightnessFile()), QByteArray());
+    QVERIFY(QFile::setPermissions(brightnessFile(), QFile::ReadOwner | QFile::WriteOwner));
+    click(Qt::Key_F3);
+    QCOMPARE(read(brightnessFile()), QByteArray("255"));
 }
 
 void KeyFilterTest::refusedQuestionIsAskedAgain() {

@@ -1,12 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "power/volumepanel.h"
 
+#include "power/mixerlisting.h"
+
 #include <roundslider.h>
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLabel>
+#include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
@@ -28,6 +31,8 @@ private slots:
     void microphoneTakesOnlyTheEnds();
     void badMixerLeavesTheLevelsAtNought_data();
     void badMixerLeavesTheLevelsAtNought();
+    void mixerThatMayNotBeRunLeavesTheLevelsAtNought();
+    void longListingIsReadWhole();
     void widgetsStandInTheirPlaces();
     void panelOpensBesideItsCaller();
     void realMixerIsRead();
@@ -48,14 +53,23 @@ private:
     static RoundSlider *slider(const VolumePanel &panel, int number) {
         return panel.findChildren<RoundSlider *>().value(number);
     }
-    void putInFront(const QByteArray &script, bool isExecutable = true) {
+    /// Makes `script` the only amixer that is found; none when it is empty.
+    void putAlone(const QByteArray &script, bool isExecutable = true) {
         QFile file(programs.filePath(u"amixer"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(script);
-        file.close();
-        if (isExecutable)
-            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        qputenv("PATH", programs.path().toLocal8Bit() + ':' + path);
+        file.remove();
+        if (!script.isEmpty()) {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(script);
+            file.close();
+            const auto plain = QFile::ReadOwner | QFile::WriteOwner;
+            file.setPermissions(isExecutable ? plain | QFile::ExeOwner : plain);
+        }
+        // Only what the scripts themselves need.
+        for (const QString &name : {u"yes"_s, u"sleep"_s}) {
+            if (!QFile::exists(programs.filePath(name)))
+                QVERIFY(QFile::link("/bin/"_L1 + name, programs.filePath(name)));
+        }
+        qputenv("PATH", programs.path().toLocal8Bit());
     }
 
     QTemporaryDir programs;
@@ -119,27 +133,40 @@ void VolumePanelTest::microphoneTakesOnlyTheEnds() {
 
 void VolumePanelTest::badMixerLeavesTheLevelsAtNought_data() {
     QTest::addColumn<QByteArray>("script");
-    QTest::addColumn<bool>("isExecutable");
-    QTest::newRow("says nothing") << QByteArray("#!/bin/sh\n") << true;
-    QTest::newRow("crashes") << QByteArray("#!/bin/sh\nkill -SEGV $$\n") << true;
-    QTest::newRow("hangs") << QByteArray("#!/bin/sh\necho 'Mono: Capture 1 [5%]'\nexec sleep 60\n") << true;
-    QTest::newRow("never stops talking")
-        << QByteArray("#!/bin/sh\nexec yes 'Mono: Capture 1 [5%]'\n") << true;
-    QTest::newRow("cannot be run") << QByteArray("\x7f"
-                                                 "ELF nonsense")
-                                   << true;
+    const QByteArray sh = "#!/bin/sh\n";
+    const QByteArray level = "echo 'Mono: Capture 1 [5%]'\n";
+    QTest::newRow("missing") << QByteArray();
+    QTest::newRow("says nothing") << sh;
+    QTest::newRow("fails") << sh + level + "exit 1\n";
+    QTest::newRow("crashes") << sh + level + "kill -SEGV $$\n";
+    QTest::newRow("hangs") << sh + level + "exec sleep 60\n";
+    QTest::newRow("never stops talking") << sh + "exec yes 'Mono: Capture 1 [5%]'\n";
+    QTest::newRow("never stops complaining") << sh + "exec yes >&2\n";
+    QTest::newRow("is no program") << QByteArray("\x7f"
+                                                 "ELF nonsense");
 }
 
 void VolumePanelTest::badMixerLeavesTheLevelsAtNought() {
     QFETCH(QByteArray, script);
-    QFETCH(bool, isExecutable);
-    putInFront(script, isExecutable);
+    putAlone(script);
     QElapsedTimer timer;
     timer.start();
     const VolumePanel panel;
     QCOMPARE(slider(panel, 0)->position(), 0);
     QCOMPARE(slider(panel, 1)->position(), 0);
     QVERIFY2(timer.elapsed() < 4000, qPrintable(QString::number(timer.elapsed())));
+}
+
+void VolumePanelTest::mixerThatMayNotBeRunLeavesTheLevelsAtNought() {
+    putAlone("#!/bin/sh\necho 'Mono: Capture 1 [5%]'\n", false);
+    const VolumePanel panel;
+    QCOMPARE(slider(panel, 1)->position(), 0);
+}
+
+void VolumePanelTest::longListingIsReadWhole() {
+    setMixer(QByteArray("Simple mixer control 'Line',0\n").repeated(100'000) + "  Mono: Capture 31 [44%]\n");
+    const VolumePanel panel;
+    QCOMPARE(slider(panel, 1)->position(), 44);
 }
 
 void VolumePanelTest::widgetsStandInTheirPlaces() {
@@ -178,8 +205,13 @@ void VolumePanelTest::realMixerIsRead() {
     QVERIFY(isInstalled);
     if (!QFile::exists(u"/proc/asound/card0"_s))
         QSKIP("this machine has no sound card, so the real amixer has nothing to list");
+    QProcess mixer;
+    mixer.start(u"amixer"_s, QStringList());
+    QVERIFY(mixer.waitForFinished());
+    const MixerLevels levels = mixerLevels(QString::fromLocal8Bit(mixer.readAllStandardOutput()));
     const VolumePanel panel;
-    QVERIFY(slider(panel, 0)->position() >= 0);
+    QCOMPARE(slider(panel, 0)->position(), levels.speaker);
+    QCOMPARE(slider(panel, 1)->position(), levels.microphone);
 }
 
 QTEST_MAIN(VolumePanelTest)

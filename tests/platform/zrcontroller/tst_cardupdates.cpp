@@ -39,6 +39,7 @@ private slots:
     void commandWaitsForTheUpdateItCauses();
     void commandWithoutUpdateDoesNotWaitLong();
     void sameProxyForTheSamePair();
+    void proxyMadeLaterAsksForWhatWasTold();
 
 private:
     using Controller = std::unique_ptr<CardController>;
@@ -163,6 +164,16 @@ void CardUpdatesTest::commandWithoutUpdateDoesNotWaitLong() {
     QCOMPARE(controller->doCommandGetUpdate(u"status alarms reset"_s), 0);
     card.close();
     QCOMPARE(controller->doCommandGetUpdate(u"status alarms reset"_s), -1);
+}
+
+void CardUpdatesTest::proxyMadeLaterAsksForWhatWasTold() {
+    FakeCard card;
+    card.setUpdateOnRequest("{\"indicators\":{\"LOS\":1},\"counts\":{\"n\":7}}\n");
+    const Controller controller = open(card);
+    const DataProxy *const indicators = controller->dataProxy(u"indicators"_s, nullptr);
+    QTRY_VERIFY(!indicators->data().isEmpty());
+    const DataProxy *const counts = controller->dataProxy(u"counts"_s, nullptr);
+    QTRY_COMPARE(counts->data().value(u"n"_s).toInt(), 7);
 }
 
 void CardUpdatesTest::sameProxyForTheSamePair() {

@@ -48,7 +48,7 @@ void CommandChannelTest::replyThatComesAfterTheLineWasOpenedAnewIsDropped_data()
 void CommandChannelTest::replyThatComesAfterTheLineWasOpenedAnewIsDropped() {
     QFETCH(int, wire);
     FakeCard card{FakeCard::Wire(wire)};
-    card.setReply("versions", "late");
+    card.setReply("versions", "1");
     card.setReply("options", "right");
     CommandChannel channel(card.cardiface());
     channel.setTimeLimit(100ms);
@@ -69,7 +69,11 @@ void CommandChannelTest::replyThatComesAfterTheLineWasOpenedAnewIsDropped() {
     delete releasing;
     QCOMPARE(outcome.kind, CommandChannel::Outcome::Answered);
     QCOMPARE(outcome.text, u"right"_s);
-    QTEST(card.commands().contains("repeat 1"), "repeatsANumber");
+    const QList<QByteArray> commands = card.commands();
+    const bool repeated = std::any_of(commands.cbegin(), commands.cend(), [](const QByteArray &command) {
+        return command.startsWith("repeat ");
+    });
+    QTEST(repeated, "repeatsANumber");
 }
 
 void CommandChannelTest::cardThatIsNotThereIsTriedAgain() {
