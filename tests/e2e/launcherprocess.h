@@ -36,6 +36,9 @@ public:
     QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
     QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
     QStringList leds() { return ask<QStringList>("leds"); }
+    void showShortcutWindow() { probe->call(QStringLiteral("showShortcutWindow")); }
+    int shortcuts() { return ask<int>("shortcuts"); }
+    void closePopup() { probe->call(QStringLiteral("closePopup")); }
     QString shownPopup() { return ask<QString>("shownPopup"); }
     bool isActive() { return ask<bool>("isActive"); }
     bool hasPicture(const QString &name) { return ask<bool>("hasPicture", {name}); }

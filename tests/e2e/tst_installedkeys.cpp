@@ -25,6 +25,7 @@ private slots:
     void homeKeyLeadsHomeFromThreeLevels();
     void powerKeyAsksAndObeys();
     void batteryIsShownAndExplained();
+    void soundPanelOpensAsOftenAsItIsWanted();
 
 private:
     static QByteArray read(const QString &name) {
@@ -51,9 +52,10 @@ void InstalledKeysTest::init() {
     const QString plugins = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR "/zr-launcher/plugins/");
     config.setPath(u""_s);
     config.setPersistent(u"zr"_s);
-    config.setCollection(u"zr"_s, u"probe system refresh"_s);
+    config.setCollection(u"zr"_s, u"probe system sound refresh"_s);
     config.addPlugin(u"probe"_s, {.file = QStringLiteral(E2E_PROBE)});
     config.addPlugin(u"system"_s, {.file = plugins + "libsystem.so"_L1, .settings = u"refresh"_s});
+    config.addPlugin(u"sound"_s, {.row = 2, .file = plugins + "libsound.so"_L1});
     config.addPlugin(u"refresh"_s, {.file = plugins + "librefresh.so"_L1});
     launcher = std::make_unique<LauncherProcess>();
     launcher->environment.insert(u"DISPLAY"_s, display.display());
@@ -69,8 +71,12 @@ void InstalledKeysTest::brightnessKeyWritesTheFile() {
     const QString directory = root() + "/sys/devices/platform/pmmcu.0"_L1;
     QVERIFY(QDir().mkpath(directory));
     QVERIFY(QFile(directory + "/brightness"_L1).open(QIODevice::WriteOnly));
+    // A plug-in's shortcut on the same key is not asked.
+    launcher->showShortcutWindow();
+    QCOMPARE(launcher->shownPage(), u"window with a shortcut"_s);
     press(u"F3"_s);
     QTRY_COMPARE(read(directory + "/brightness"_L1), QByteArray("255"));
+    QCOMPARE(launcher->shortcuts(), 0);
     press(u"F3"_s);
     QTRY_COMPARE(read(directory + "/brightness"_L1), QByteArray("1"));
 }
@@ -118,6 +124,17 @@ void InstalledKeysTest::batteryIsShownAndExplained() {
     QTRY_VERIFY(launcher->hasPicture(u"labelBattery"_s));
     QVERIFY(launcher->press(u"labelBattery"_s));
     QTRY_COMPARE(launcher->shownPopup(), u"StatusPanel"_s);
+}
+
+void InstalledKeysTest::soundPanelOpensAsOftenAsItIsWanted() {
+    for (int i = 0; i < 2; ++i) {
+        QVERIFY(launcher->press(u"Звук"_s));
+        QTRY_COMPARE(launcher->shownPopup(), u"VolumePanel"_s);
+        launcher->closePopup();
+        QTRY_COMPARE(launcher->shownPopup(), QString());
+    }
+    // Its library is unmapped at the end, with the panel open.
+    QVERIFY(launcher->press(u"Звук"_s));
 }
 
 QTEST_GUILESS_MAIN(InstalledKeysTest)

@@ -36,9 +36,20 @@ public slots:
     /// Presses a row of the visible list or table.
     bool pressRow(int row) const;
     void goHome() const;
+    /// Shows the probe's own window, which has a shortcut on F3.
+    void showShortcutWindow() { emit windowWanted(); }
+    /// How often that shortcut was used.
+    int shortcuts() const { return shortcutCount; }
     /// Writes a picture of the window with its open pop-up.
     bool grab(const QString &file) const;
 
+public:
+    void countShortcut() { ++shortcutCount; }
+
+signals:
+    void windowWanted();
+
 private:
+    int shortcutCount = 0;
     QWidget *named(const QString &nameOrText) const;
 };

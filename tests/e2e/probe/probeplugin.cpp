@@ -2,9 +2,19 @@
 #include "probeplugin.h"
 
 #include <QDBusConnection>
+#include <QShortcut>
 
 ProbePlugin::ProbePlugin() {
+    connect(&probe, &Probe::windowWanted, this, &ProbePlugin::showWindow);
     QDBusConnection bus = QDBusConnection::sessionBus();
     bus.registerObject(QStringLiteral("/"), &probe, QDBusConnection::ExportAllSlots);
     bus.registerService(QStringLiteral("zr.probe"));
+}
+
+QWidget *ProbePlugin::createWindow() {
+    auto *const window = new QWidget;
+    window->setObjectName(QStringLiteral("window with a shortcut"));
+    auto *const shortcut = new QShortcut(QKeySequence(Qt::Key_F3), window);
+    connect(shortcut, &QShortcut::activated, &probe, &Probe::countShortcut);
+    return window;
 }

@@ -13,6 +13,9 @@ class ProbePlugin : public GenericPlugin {
 public:
     ProbePlugin();
 
+    /// A window with a shortcut on the brightness key.
+    QWidget *createWindow() override;
+
 private:
     Probe probe;
 };

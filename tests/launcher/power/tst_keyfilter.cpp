@@ -13,6 +13,7 @@
 #include <QTimer>
 
 #include <memory>
+#include <qpa/qwindowsysteminterface.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -26,6 +27,7 @@ private slots:
 
     void keysAreConsumedAsTabled_data();
     void keysAreConsumedAsTabled();
+    void pressOfF1IsKeptFromWindowsItsReleaseIsNot();
     void homeLeadsHome();
     void brightnessAlternates();
     void heldBrightnessKeyWritesOnce();
@@ -112,6 +114,29 @@ void KeyFilterTest::keysAreConsumedAsTabled() {
     QTEST(press(key), "onPress");
     QTEST(release(key), "onRelease");
     QVERIFY(release(Qt::Key_Pause));
+}
+
+void KeyFilterTest::pressOfF1IsKeptFromWindowsItsReleaseIsNot() {
+    class KeyWindow : public QWidget {
+    public:
+        QStringList seen;
+
+    protected:
+        void keyPressEvent(QKeyEvent *) override { seen.append(u"press"_s); }
+        void keyReleaseEvent(QKeyEvent *) override { seen.append(u"release"_s); }
+    } keyWindow;
+    keyWindow.show();
+    keyWindow.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&keyWindow));
+    QWSServer::addKeyboardFilter(filter.get());
+    // As the platform delivers them.
+    for (const int key : {Qt::Key_F1, Qt::Key_F2, Qt::Key_F5, Qt::Key_Home}) {
+        for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+            QWindowSystemInterface::handleKeyEvent(nullptr, type, key, Qt::NoModifier);
+    }
+    QTRY_COMPARE(keyWindow.seen.size(), 4);
+    QWSServer::removeKeyboardFilter();
+    QCOMPARE(keyWindow.seen, QStringList({u"release"_s, u"release"_s, u"press"_s, u"release"_s}));
 }
 
 void KeyFilterTest::homeLeadsHome() {

@@ -69,6 +69,7 @@ private slots:
     void lastFilterIsAskedFirst();
     void removedFilterIsNotAsked();
     void burstIsSeenWhole();
+    void heldKeyIsSeenWithItsRepetitions();
     void valuesAreThoseOfTheKey();
 
 private:
@@ -207,6 +208,27 @@ void KeyboardFilterTest::burstIsSeenWhole() {
     install(recorder);
     pressF3(100);
     QTRY_COMPARE(recorder.seen.size(), 200);
+    QCOMPARE(shortcuts, 0);
+}
+
+void KeyboardFilterTest::heldKeyIsSeenWithItsRepetitions() {
+    Recorder recorder({Qt::Key_F3});
+    install(recorder);
+#ifdef ON_X_SERVER
+    QVERIFY(xServer->xdotool({u"keydown"_s, u"F3"_s}));
+    // An X server repeats a held key as releases and presses.
+    QTRY_VERIFY(recorder.seen.size() >= 4);
+    QVERIFY(xServer->xdotool({u"keyup"_s, u"F3"_s}));
+    QTRY_VERIFY(recorder.seen.size() % 2 == 0 && recorder.seen.last() == "-1000032"_L1);
+#else
+    QWindowSystemInterface::handleKeyEvent(nullptr, QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier);
+    for (int i = 0; i < 3; ++i)
+        QWindowSystemInterface::handleKeyEvent(nullptr, QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier,
+                                               QString(), true);
+    QWindowSystemInterface::handleKeyEvent(nullptr, QEvent::KeyRelease, Qt::Key_F3, Qt::NoModifier);
+    QTRY_COMPARE(recorder.seen.size(), 5);
+    QCOMPARE(recorder.seen.count(u"+1000032"_s), 4);
+#endif
     QCOMPARE(shortcuts, 0);
 }
 
