@@ -24,7 +24,7 @@ QString CardAnnouncement::insert() const {
 }
 
 QString CardAnnouncement::remove() const {
-    const QString error = signalOnBus(u"removed"_s, {cardType, serialNumber});
+    QString error = signalOnBus(u"removed"_s, {cardType, serialNumber});
     QFile::remove(CardPlace::infoFile(u"%1-%2"_s.arg(cardType).arg(serialNumber)));
     return error;
 }

@@ -21,10 +21,10 @@ QString CardPlace::directory() {
     const QString user = qEnvironmentVariable("USER");
     if (user.isEmpty())
         return QDir::currentPath();
-    const QString run = root + "/var/run/"_L1 + user;
+    QString run = root + "/var/run/"_L1 + user;
     if (QFileInfo(run).isDir())
         return run;
-    const QString temporary = root + "/tmp/"_L1 + user;
+    QString temporary = root + "/tmp/"_L1 + user;
     QDir().mkpath(temporary);
     return temporary;
 }

@@ -176,7 +176,7 @@ void CardProcess::live(bool on) {
 
 void CardProcess::changeRandomAlarm() {
     const QStringList names = simulated.alarmNames();
-    const QString name = names.at(static_cast<qsizetype>(random()) % names.size());
+    const QString &name = names.at(static_cast<qsizetype>(random()) % names.size());
     simulated.setAlarm(name, !simulated.isPresent(name));
     sendUpdate();
 }

@@ -13,7 +13,7 @@
 PtyPort::PtyPort(const QString &link) : devicePath(link) {}
 
 PtyPort::~PtyPort() {
-    shut();
+    PtyPort::shut();
 }
 
 QString PtyPort::address() const {
