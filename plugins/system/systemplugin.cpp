@@ -15,8 +15,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 SystemPlugin::SystemPlugin()
-    : reader(std::make_shared<SystemReader>(SystemSources{hostSource(u"/proc"_s, u"meminfo"_s), u"/"_s, QDir::homePath()},
-                                            QString::fromUtf8(build_name))),
+    : reader(std::make_shared<SystemReader>(
+          SystemSources{hostSource(u"/proc"_s, u"meminfo"_s), u"/"_s, QDir::homePath()},
+          QString::fromUtf8(build_name))),
       systemKeeper(new SystemKeeper(reader, this)) {
     setTitle(tr("System"));
     setKeeper(systemKeeper);

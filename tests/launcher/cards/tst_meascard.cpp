@@ -228,6 +228,7 @@ void MeasCardTest::slowCardIsNotAskedWithEveryUpdate() {
     const qsizetype before = card.commands().count("status alarms");
     card.hold();
     QThread *const releasing = QThread::create([&card] {
+        // Not waited for anything: this is how long the card takes, three times what counts as quick.
         QThread::msleep(300);
         card.release();
     });
