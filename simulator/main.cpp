@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "batterycommand.h"
 #include "cardcommand.h"
+#include "flashcommand.h"
 
 #include <iostream>
 
@@ -12,6 +13,10 @@ int main(int argc, char *argv[]) {
         return runCardCommand(words.mid(1), argc, argv);
     if (words.value(0) == QLatin1String("battery"))
         return runBatteryCommand(words.mid(1), argc, argv);
-    std::cerr << qPrintable(cardCommandHelp()) << '\n' << qPrintable(batteryCommandHelp());
+    if (words.value(0) == QLatin1String("flash"))
+        return runFlashCommand(words.mid(1), argc, argv);
+    std::cerr << qPrintable(cardCommandHelp()) << '\n'
+              << qPrintable(batteryCommandHelp()) << '\n'
+              << qPrintable(flashCommandHelp());
     return 2;
 }

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/cardannouncement.h"
 
+#include "bussignal.h"
 #include "cards/cardplace.h"
 
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QDBusMessage>
 #include <QFile>
 #include <QSaveFile>
 
@@ -20,23 +18,11 @@ QString CardAnnouncement::insert() const {
     const QString text = u"%1\n%2\n%3\n%4\n"_s.arg(cardType).arg(serialNumber).arg(cardiface, poller);
     if (!file.open(QIODevice::WriteOnly) || file.write(text.toLatin1()) < 0 || !file.commit())
         return u"cannot write %1: %2"_s.arg(file.fileName(), file.errorString());
-    return signalOnBus(u"inserted"_s, {cardType, serialNumber, cardiface, poller});
+    return sendBusSignal(u"zr.card"_s, u"inserted"_s, {cardType, serialNumber, cardiface, poller});
 }
 
 QString CardAnnouncement::remove() const {
-    QString error = signalOnBus(u"removed"_s, {cardType, serialNumber});
+    QString error = sendBusSignal(u"zr.card"_s, u"removed"_s, {cardType, serialNumber});
     QFile::remove(CardPlace::infoFile(u"%1-%2"_s.arg(cardType).arg(serialNumber)));
     return error;
-}
-
-QString CardAnnouncement::signalOnBus(const QString &name, const QVariantList &arguments) const {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
-        return u"no session bus; only the info file tells of the card"_s;
-    QDBusMessage message = QDBusMessage::createSignal(u"/"_s, u"zr.card"_s, name);
-    message.setArguments(arguments);
-    bus.send(message);
-    // The answer to a call comes after the signal has left.
-    bus.interface()->isServiceRegistered(u"zr.card"_s);
-    return {};
 }

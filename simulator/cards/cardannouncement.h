@@ -15,8 +15,6 @@ public:
     QString remove() const;
 
 private:
-    QString signalOnBus(const QString &name, const QVariantList &arguments) const;
-
     QString cardType;
     int serialNumber;
     QString cardiface;
