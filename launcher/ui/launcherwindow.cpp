@@ -3,6 +3,7 @@
 
 #include "cards/cardsmanager.h"
 #include "cards/meascard.h"
+#include "flash/flashmanager.h"
 #include "plugins/cardpluginscollection.h"
 #include "ui/icongrid.h"
 #include "ui/launcherheader.h"
@@ -82,6 +83,7 @@ LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_
 
     cardsManager = new CardsManager(this);
     cardsManager->scanAndSubscribe();
+    new FlashManager(this);
 }
 
 LauncherWindow::~LauncherWindow() {

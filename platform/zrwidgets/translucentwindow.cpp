@@ -31,8 +31,10 @@ TranslucentWindow::TranslucentWindow(QWidget *parent, int sideMargin, int edgeMa
     contentsLayout->setContentsMargins(sideMargin, edgeMargin, sideMargin, edgeMargin);
     contentsLayout->addStretch(1);
     contentsLayout->addStretch(1);
-    if (parent)
-        parent->window()->installEventFilter(this);
+    for (QWidget *behind = parent; behind; behind = behind->parentWidget()) {
+        if (behind->isWindow() || !behind->parentWidget())
+            behind->installEventFilter(this);
+    }
 }
 
 QPushButton *TranslucentWindow::createButton(const QString &text, bool isDefault) {
@@ -55,13 +57,18 @@ void TranslucentWindow::addContent(QWidget *content, int left, int top, int righ
 }
 
 QWidget *TranslucentWindow::coveredWindow() const {
-    return parentWidget() ? parentWidget()->window() : nullptr;
+    QWidget *window = parentWidget() ? parentWidget()->window() : nullptr;
+    while (window && !window->isVisible() && window->parentWidget())
+        window = window->parentWidget()->window();
+    return window;
+}
+
+QSize TranslucentWindow::wholeRoom() const {
+    return (coveredWindow() ? coveredWindow()->size() : screen()->availableSize()) - 2 * freeMargins;
 }
 
 QSize TranslucentWindow::roomForContents() const {
-    const QSize whole = coveredWindow() ? coveredWindow()->size() : screen()->availableSize();
-    const QSize room = whole - 2 * freeMargins;
-    return {qMin(widestContents, room.width()), room.height()};
+    return {qMin(widestContents, wholeRoom().width()), wholeRoom().height()};
 }
 
 void TranslucentWindow::fitContents() {}
@@ -107,10 +114,22 @@ void TranslucentWindow::giveKeysBack() {
 }
 
 bool TranslucentWindow::eventFilter(QObject *watched, QEvent *event) {
-    if (isVisible() && watched == coveredWindow() &&
-        (event->type() == QEvent::Resize || event->type() == QEvent::Move))
+    const bool isMoved = event->type() == QEvent::Resize || event->type() == QEvent::Move;
+    const bool isShownOrHidden = event->type() == QEvent::Show || event->type() == QEvent::Hide;
+    if (isVisible() && isMoved && watched == coveredWindow())
         cover();
+    // A dialog of which this one is a child came up in front, or went and leaves another window to be covered.
+    if (isVisible() && isShownOrHidden)
+        QMetaObject::invokeMethod(this, &TranslucentWindow::comeToFront, Qt::QueuedConnection);
     return QDialog::eventFilter(watched, event);
+}
+
+void TranslucentWindow::comeToFront() {
+    if (!isVisible())
+        return;
+    cover();
+    raise();
+    activateWindow();
 }
 
 void TranslucentWindow::paintEvent(QPaintEvent *) {

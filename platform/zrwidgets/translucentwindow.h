@@ -10,7 +10,8 @@ class QVBoxLayout;
 /// A modal dialog that covers its parent's window: in the middle its contents, around them the window, dimmed.
 ///
 /// It needs no window manager: it lies exactly on the parent's window and follows its size. What is seen dimmed is a
-/// picture taken when the dialog is shown. Left and Right go from button to button, Escape and the Back key reject.
+/// picture taken when the dialog is shown. A parent that is itself a hidden dialog is passed over for the window behind
+/// it. Left and Right go from button to button, Escape and the Back key reject.
 /// GUI thread only.
 class TranslucentWindow : public QDialog {
     Q_OBJECT
@@ -33,13 +34,17 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
+    /// The nearest visible window behind the dialog; its last ancestor where none is visible.
+    QWidget *coveredWindow() const;
     /// The largest size that contents can have.
+    QSize wholeRoom() const;
+    /// The largest size that contents should have: long lines are hard to read.
     QSize roomForContents() const;
-    /// Called before the dialog is shown and when its size has changed, to fit the contents to roomForContents().
+    /// Called before the dialog is shown and when its size has changed, to fit the contents to the room.
     virtual void fitContents();
 
 private:
-    QWidget *coveredWindow() const;
+    void comeToFront();
     void cover();
     void giveKeysBack();
 

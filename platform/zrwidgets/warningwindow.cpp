@@ -78,7 +78,7 @@ void WarningWindow::showFirst() {
     if (isOpen || isAsking || messages.isEmpty())
         return;
     // A dialog before its window would have the screen for itself. The window's Show event calls again.
-    if (parentWidget() && !parentWidget()->window()->isVisible())
+    if (coveredWindow() && !coveredWindow()->isVisible())
         return;
     isOpen = true;
     acceptButton->setText(tr("OK"));

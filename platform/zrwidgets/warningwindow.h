@@ -12,7 +12,7 @@ class QHBoxLayout;
 /// A modal message, or a question with two answers.
 ///
 /// Messages that come while one is open wait and are shown one after the other; one that is open or waits already is
-/// not shown twice. While the parent's window is not visible yet, the first message waits for it. Texts are plain,
+/// not shown twice. While no window behind is visible yet, the first message waits for it. Texts are plain,
 /// however they look; long ones wrap and scroll. GUI thread only.
 class WarningWindow : public TranslucentWindow {
     Q_OBJECT

@@ -43,6 +43,7 @@ public:
     bool isActive() { return ask<bool>("isActive"); }
     bool hasPicture(const QString &name) { return ask<bool>("hasPicture", {name}); }
     QString message() { return ask<QString>("message"); }
+    int progress() { return ask<int>("progress"); }
     QStringList windowSize() { return ask<QStringList>("windowSize"); }
     bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }
     bool grab(const QString &file) { return ask<bool>("grab", {file}); }

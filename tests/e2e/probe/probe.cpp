@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTextEdit>
@@ -106,8 +107,18 @@ bool Probe::hasPicture(const QString &name) const {
 
 QString Probe::message() const {
     const QWidget *const dialog = QApplication::activeModalWidget();
-    const auto *const text = dialog ? dialog->findChild<QTextEdit *>() : nullptr;
-    return text ? text->toPlainText() : QString();
+    if (!dialog)
+        return {};
+    if (const auto *const text = dialog->findChild<QTextEdit *>())
+        return text->toPlainText();
+    const auto *const text = dialog->findChild<QLabel *>();
+    return text ? text->text() : QString();
+}
+
+int Probe::progress() const {
+    const QWidget *const dialog = QApplication::activeModalWidget();
+    const auto *const bar = dialog ? dialog->findChild<QProgressBar *>() : nullptr;
+    return bar && bar->isVisible() ? bar->value() : -1;
 }
 
 QWidget *Probe::named(const QString &nameOrText) const {

@@ -30,6 +30,8 @@ public slots:
     bool hasPicture(const QString &name) const;
     /// Text of the topmost message that is open.
     QString message() const;
+    /// Percentage of the progress bar in the topmost dialog, -1 when none is shown.
+    int progress() const;
     bool isVisible(const QString &name) const;
     /// Presses and lets go in the middle of the visible widget of that object name or that text.
     bool press(const QString &nameOrText) const;

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "flash/flashspy.h"
+
+#include "zrlauncherconfig.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QRegularExpression>
+
+#include <iostream>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// By bit number of the exit code (mount(8), "EXIT STATUS"); a null ends the table.
+const char *const mountErrNames[] = {
+    QT_TRANSLATE_NOOP("FlashManager", "incorrect invocation or permissions"),
+    QT_TRANSLATE_NOOP("FlashManager", "system error (out of memory, cannot fork, no more loop devices)"),
+    QT_TRANSLATE_NOOP("FlashManager", "internal mount bug"),
+    QT_TRANSLATE_NOOP("FlashManager", "user interrupt"),
+    QT_TRANSLATE_NOOP("FlashManager", "problems writing or locking /etc/mtab"),
+    QT_TRANSLATE_NOOP("FlashManager", "mount failure"),
+    QT_TRANSLATE_NOOP("FlashManager", "some mount succeeded"),
+    nullptr,
+};
+
+} // namespace
+
+FlashSpy::FlashSpy(QObject *parent) : QObject(parent) {
+    clearConfig();
+    subscribe();
+}
+
+QString FlashSpy::flashDir() const {
+    return flashDirectory;
+}
+
+QString FlashSpy::flashName() const {
+    return flashDirectory;
+}
+
+void FlashSpy::subscribe() {
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        std::cerr << "No connection to the D-Bus session bus.\n";
+        return;
+    }
+    const QString path = u"/"_s;
+    const QString interface = u"zr.flash"_s;
+    bus.connect(QString(), path, interface, u"inserted"_s, this, SLOT(addFlash(QString)));
+    bus.connect(QString(), path, interface, u"removed"_s, this, SLOT(removeFlash(QString)));
+    bus.connect(QString(), path, interface, u"mountFailed"_s, this, SLOT(brokeFlash(int)));
+}
+
+void FlashSpy::clearConfig() {
+    ZrLauncherConfig(u"flash"_s, u"dir"_s) = QString();
+    ZrLauncherConfig(u"flash"_s, u"save"_s) = false;
+}
+
+bool FlashSpy::isValidPartition(const QString &name) {
+    static const QRegularExpression partition(u"\\A(?:^(.+)[0-9]{1,1}$)\\z"_s,
+                                              QRegularExpression::InvertedGreedinessOption |
+                                                  QRegularExpression::DotMatchesEverythingOption);
+    return partition.match(name).hasMatch();
+}
+
+void FlashSpy::addFlash(QString devName) {
+    if (!deviceName.isEmpty()) {
+        emit mountFailed(tr("Only one flash card can be used. Please, remove currently installed"));
+        return;
+    }
+    if (!isValidPartition(devName))
+        return;
+    deviceName = devName;
+    flashDirectory = u"/media/%1"_s.arg(devName);
+    ZrLauncherConfig(u"flash"_s, u"dir"_s) = flashDirectory;
+    emit flashInserted(deviceName);
+}
+
+void FlashSpy::removeFlash(QString) {
+    clearConfig();
+    deviceName.clear();
+    flashDirectory.clear();
+    emit flashRemoved();
+}
+
+void FlashSpy::brokeFlash(int errCode) {
+    emit mountFailed(tr("Error %1:").arg(errCode) + u"\n%2"_s.arg(decodeMountError(errCode)));
+}
+
+QString FlashSpy::decodeMountError(int code) {
+    QString text;
+    for (int bit = 0; mountErrNames[bit]; ++bit) {
+        if (code & (1 << bit))
+            text += translateMountErr(bit) + u'\n';
+    }
+    return text;
+}
+
+QString FlashSpy::translateMountErr(int bit) {
+    return QCoreApplication::translate("FlashManager", mountErrNames[bit]);
+}

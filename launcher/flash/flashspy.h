@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QObject>
+
+/// Follows the one flash drive that the instrument uses, as the mount service tells of it on the session bus, and tells
+/// the plug-ins in the launcher's store where it is mounted. GUI thread only.
+class FlashSpy : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FlashSpy(QObject *parent);
+
+    /// Where the accepted partition is mounted, empty when there is none.
+    QString flashDir() const;
+    /// The same as flashDir().
+    QString flashName() const;
+
+signals:
+    /// `name` is the partition's, "sda1".
+    void flashInserted(QString name);
+    void flashRemoved();
+    /// `msg` is for the user.
+    void mountFailed(QString msg);
+
+public slots:
+    /// A partition was mounted. Whole drives are ignored, a second partition is refused.
+    void addFlash(QString devName);
+    /// A partition went. Whichever it was, there is no drive any more.
+    void removeFlash(QString devName);
+    /// mount(8) ended with that exit code, in which each bit has a meaning of its own.
+    void brokeFlash(int errCode);
+
+private:
+    void subscribe();
+    void clearConfig();
+    static bool isValidPartition(const QString &name);
+    static QString decodeMountError(int code);
+    static QString translateMountErr(int bit);
+
+    QString flashDirectory;
+    QString deviceName;
+};
