@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "commandline.h"
+#include "crashhandler.h"
 #include "framebuffer.h"
 #include "installation.h"
 #include "power/keyfilter.h"
@@ -45,6 +46,7 @@ void dress() {
 } // namespace
 
 int main(int argc, char *argv[]) {
+    installCrashHandler();
     // The command line is answered before there is an application object: help has to work over a line
     // without a display, and must not touch the screen of a launcher that runs already.
     QTranslator translator;
