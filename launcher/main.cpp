@@ -4,6 +4,8 @@
 #include "framebuffer.h"
 #include "installation.h"
 #include "power/keyfilter.h"
+#include "servicenotifier.h"
+#include "terminationsignals.h"
 #include "ui/launcherwindow.h"
 
 #include <palettefactory.h>
@@ -55,6 +57,7 @@ int main(int argc, char *argv[]) {
         return *status;
 
     const QApplication application(argc, argv);
+    const TerminationSignals terminationSignals;
     QWSServer::setCursorVisible(false);
     QCoreApplication::installTranslator(&translator);
     registerInstallation();
@@ -64,6 +67,7 @@ int main(int argc, char *argv[]) {
     KeyFilter keyFilter(&window);
     QWSServer::addKeyboardFilter(&keyFilter);
     window.resize(screenWidth, fbHeight());
+    const ServiceNotifier serviceNotifier(&window);
     window.show();
     // Where no window manager gives it the keys.
     window.activateWindow();
