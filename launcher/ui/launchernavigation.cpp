@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The ways into plug-in windows and out of them again.
 #include "plugins/pluginscollection.h"
+#include "ui/apppopups.h"
 #include "ui/launcherheader.h"
 #include "ui/launcherwindow.h"
 #include "ui/ui_launcherwindow.h"
+#include "ui/vboxpopup.h"
 
 #include <abstractkeeper.h>
 #include <genericplugin.h>
@@ -131,4 +133,6 @@ void LauncherWindow::on_labelSettings_clicked() {
     const QList<GenericPlugin *> plugins = currentCollection->settingPlugins(settingsCaller);
     if (plugins.size() == 1)
         plugins.first()->showWindow();
+    else if (VBoxPopup *const popup = popups->popup(settingsCaller, plugins))
+        popup->show();
 }

@@ -5,6 +5,7 @@
 #include "cards/meascard.h"
 #include "flash/flashmanager.h"
 #include "plugins/cardpluginscollection.h"
+#include "ui/apppopups.h"
 #include "ui/icongrid.h"
 #include "ui/launcherheader.h"
 #include "ui/ui_launcherwindow.h"
@@ -84,6 +85,7 @@ LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_
     cardsManager = new CardsManager(this);
     cardsManager->scanAndSubscribe();
     new FlashManager(this);
+    popups = std::make_unique<AppPopups>(this, ui->labelSettings);
 }
 
 LauncherWindow::~LauncherWindow() {
@@ -92,6 +94,7 @@ LauncherWindow::~LauncherWindow() {
         collection->unload();
     delete cardsManager;
     ui->stackedWidget->disconnect(this);
+    popups.reset();
     ui.reset();
     launcherWindow = nullptr;
 }

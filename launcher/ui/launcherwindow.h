@@ -9,6 +9,7 @@
 
 #include <memory>
 
+class AppPopups;
 class CardsManager;
 class ControlBottomPanel;
 class GenericPlugin;
@@ -130,6 +131,7 @@ private:
     QWidget *shownWindow = nullptr;
     QPointer<GenericPlugin> currentPlugin;
     QPointer<GenericPlugin> settingsCaller;
+    std::unique_ptr<AppPopups> popups;
     std::unique_ptr<Ui_LauncherWindow> ui;
     LauncherHeader *header = nullptr;
     QWidget *emptyPage = nullptr;

@@ -3,6 +3,7 @@
 
 #include "plugins/pluginscollection.h"
 #include "ui/launcherheader.h"
+#include "ui/vboxpopup.h"
 
 #include <abstractkeeper.h>
 #include <genericplugin.h>
@@ -36,6 +37,16 @@ private slots:
     void homeEndsWithAWindowThatNeverGivesWay();
     void homeHidesAnActiveDialog();
     void settingsOpenTheOnlySettingsPlugin();
+    void settingsWithoutPluginShowNothing();
+    void severalSettingsPluginsAreOfferedBesideTheLabel();
+    void chosenSettingsPluginIsShown();
+    void samePopupIsOfferedAgain();
+    void callerWithoutPluginIsOfferedNothing();
+    void pressOutsideTheOfferKeepsTheWindow();
+    void homeClosesTheOffer();
+    void newCardClosesTheOffer();
+    void settingsPluginIsChosenByKeys();
+    void unloadingAnOfferedPluginLeavesItsButton();
     void backFromSettingsReturnsToTheCaller();
     void secondPressOnSettingsKeepsTheFirstCaller();
     void newCollectionForgetsTheCaller();
@@ -56,6 +67,10 @@ private:
     LauncherHeader *header() const { return window->findChild<LauncherHeader *>(); }
     void back() const { header()->backButton()->click(); }
     void pressSettings() const { emit find<PressingLabel>(*window, "labelSettings")->clicked(); }
+    VBoxPopup *offer() const { return window->findChild<VBoxPopup *>(); }
+    QPushButton *offered(int index) const { return offer()->findChildren<QPushButton *>().at(index); }
+    void restart(int height);
+    void offerTwo(int height = 480);
     QPushButton *reportButton(int index) const {
         return window->findChild<PopupLabel *>()->panel()->findChildren<QPushButton *>().at(index);
     }
@@ -73,9 +88,23 @@ void NavigationTest::init() {
     configurePlugins(config, {u"alpha"_s, u"beta"_s, u"gamma"_s, u"old"_s, u"nowidgets"_s, u"plainwindow"_s});
     config.set(u"alpha/settings"_s, u"gamma"_s);
     config.set(u"beta/settings"_s, u"gamma"_s);
+    restart(480);
+}
+
+void NavigationTest::restart(int height) {
+    window.reset();
     window = std::make_unique<LauncherWindow>();
-    window->resize(800, 480);
+    window->resize(800, height);
     window->show();
+}
+
+void NavigationTest::offerTwo(int height) {
+    config.set(u"alpha/settings"_s, u"gamma beta"_s);
+    restart(height);
+    clickIcon(*window, "icon alpha");
+    pressSettings();
+    QVERIFY(offer());
+    QVERIFY(offer()->isVisible());
 }
 
 void NavigationTest::iconShowsThePluginsWindow() {
@@ -168,6 +197,105 @@ void NavigationTest::settingsOpenTheOnlySettingsPlugin() {
     pressSettings();
     QCOMPARE(shownName(), u"window gamma"_s);
     QCOMPARE(header()->text(), u"Title of gamma"_s);
+}
+
+void NavigationTest::settingsWithoutPluginShowNothing() {
+    clickIcon(*window, "icon gamma");
+    pressSettings();
+    QVERIFY(!offer());
+    QCOMPARE(shownName(), u"window gamma"_s);
+    back();
+    QCOMPARE(shownName(), u"window gamma"_s);
+    back();
+    QCOMPARE(shownName(), u"pageLauncher"_s);
+}
+
+void NavigationTest::severalSettingsPluginsAreOfferedBesideTheLabel() {
+    for (const int height : {480, 600}) {
+        offerTwo(height);
+        QCOMPARE(shownName(), u"window alpha"_s);
+        const QWidget *const label = find(*window, "labelSettings");
+        QVERIFY(offer()->x() > label->mapToGlobal(label->rect().topRight()).x());
+        QVERIFY(window->geometry().contains(offer()->geometry()));
+        QCOMPARE(offer()->maximumHeight(), 122);
+        QCOMPARE(offered(0)->text(), u"gamma"_s);
+        QCOMPARE(offered(1)->text(), u"beta"_s);
+    }
+}
+
+void NavigationTest::chosenSettingsPluginIsShown() {
+    offerTwo();
+    QTest::mouseClick(offered(1), Qt::LeftButton);
+    QVERIFY(offer()->isHidden());
+    QCOMPARE(shownName(), u"window beta"_s);
+    QVERIFY(find(*window, "labelSettings")->isVisible());
+    back();
+    QCOMPARE(shownName(), u"window alpha"_s);
+}
+
+void NavigationTest::samePopupIsOfferedAgain() {
+    offerTwo();
+    VBoxPopup *const first = offer();
+    QTest::mouseClick(offered(0), Qt::LeftButton);
+    QCOMPARE(shownName(), u"window gamma"_s);
+    pressSettings();
+    QVERIFY(first->isVisible());
+    QCOMPARE(window->findChildren<VBoxPopup *>(), QList<VBoxPopup *>{first});
+}
+
+void NavigationTest::callerWithoutPluginIsOfferedNothing() {
+    clickIcon(*window, "icon old");
+    pressSettings();
+    QVERIFY(!offer());
+    QCOMPARE(shownName(), u"window old"_s);
+}
+
+void NavigationTest::pressOutsideTheOfferKeepsTheWindow() {
+    offerTwo();
+    QTest::mouseClick(offer(), Qt::LeftButton, {}, QPoint(-60, -60));
+    QVERIFY(offer()->isHidden());
+    QCOMPARE(shownName(), u"window alpha"_s);
+}
+
+void NavigationTest::homeClosesTheOffer() {
+    offerTwo();
+    window->goHome();
+    QVERIFY(offer()->isHidden());
+    QCOMPARE(shownName(), u"pageLauncher"_s);
+}
+
+void NavigationTest::newCardClosesTheOffer() {
+    offerTwo();
+    PluginsCollection pcm(u"e1"_s, false);
+    window->newCollectionPage(&pcm);
+    QVERIFY(offer()->isHidden());
+    window->rmCollectionPages({&pcm});
+}
+
+void NavigationTest::settingsPluginIsChosenByKeys() {
+    offerTwo();
+    QTest::keyClick(offer()->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(offer()->focusWidget(), Qt::Key_Return);
+    QVERIFY(offer()->isHidden());
+    QCOMPARE(shownName(), u"window beta"_s);
+}
+
+void NavigationTest::unloadingAnOfferedPluginLeavesItsButton() {
+    config.setCollection(u"zr"_s, u""_s);
+    config.setCollection(u"e1"_s, u"alpha beta gamma"_s);
+    config.set(u"alpha/settings"_s, u"gamma beta"_s);
+    restart(480);
+    PluginsCollection pcm(u"e1"_s, false);
+    window->newCollectionPage(&pcm);
+    clickIcon(*window, "icon alpha");
+    pressSettings();
+    window->rmCollectionPages({&pcm});
+    QVERIFY(!isMapped(u"gamma"_s));
+    QVERIFY(offer()->isHidden());
+    offer()->show();
+    QTest::mouseClick(offered(0), Qt::LeftButton);
+    QVERIFY(offer()->isHidden());
+    QCOMPARE(shownName(), u"pageLauncher"_s);
 }
 
 void NavigationTest::backFromSettingsReturnsToTheCaller() {
