@@ -1,6 +1,8 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
 add_custom_target(shipped_plugins)
+# How many plug-ins may be replaced by a notice: each place needs a library of its own.
+set(ZR_NOTICE_COUNT 8)
 
 # zr_add_plugin(<name> SOURCES <file>... [LIBRARIES <target>...])
 #

@@ -22,14 +22,6 @@ namespace {
 
 using Values = QMap<QString, QVariant>;
 
-Values valuesIn(const QString &file) {
-    const QSettings settings(file, QSettings::IniFormat);
-    Values values;
-    for (const QString &key : settings.allKeys())
-        values.insert(key, settings.value(key));
-    return values;
-}
-
 bool write(const QString &file, const Values &values) {
     QSettings settings(file, QSettings::IniFormat);
     for (auto value = values.cbegin(); value != values.cend(); ++value)
@@ -69,9 +61,30 @@ bool putInPlace(const QString &newFile, const QString &file) {
            flushToDisk(file);
 }
 
+void apply(const StoreChanges &changes, Values &values) {
+    for (auto change = changes.cbegin(); change != changes.cend(); ++change) {
+        if (change.value().isValid())
+            values.insert(change.key(), change.value());
+        else
+            values.remove(change.key());
+    }
+}
+
 } // namespace
 
-bool storeValue(const QString &name, const QString &key, const QVariant &value) {
+QMap<QString, QVariant> valuesIn(const QString &file) {
+    const QSettings settings(file, QSettings::IniFormat);
+    Values values;
+    for (const QString &key : settings.allKeys())
+        values.insert(key, settings.value(key));
+    return values;
+}
+
+bool storeValue(const QString &file, const QString &key, const QVariant &value) {
+    return storeChanges(file, {{key, value}});
+}
+
+bool storeChanges(const QString &name, const StoreChanges &changes) {
     if (!QDir().mkpath(QFileInfo(name).path()))
         return false;
     // What a link points to is replaced, not the link.
@@ -90,7 +103,7 @@ bool storeValue(const QString &name, const QString &key, const QVariant &value) 
     if (!workplace.mkpath(u"."_s))
         return false;
     Values values = valuesIn(file);
-    values.insert(key, value);
+    apply(changes, values);
     const QString newFile = writtenInFull(workplace, values);
     const bool stored = !newFile.isEmpty() && putInPlace(newFile, file);
     workplace.removeRecursively();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "systemkeeper.h"
 
-#include "reportwriter.h"
+#include <reportwriter.h>
 #include "systemreader.h"
 #include "systemreport.h"
 

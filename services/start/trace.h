@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QStringList>
+
+#include <optional>
+
+/// One frame of a trace as the launcher's crash handler writes it:
+/// "[bt]: (NUMBER) MODULE(SYMBOL+OFFSET) [ADDRESS] NAME".
+struct TraceFrame {
+    int number = 0;
+    QString module;
+
+    bool operator==(const TraceFrame &) const = default;
+};
+
+/// The frame in a line, or nothing when the line is none.
+std::optional<TraceFrame> frameIn(const QByteArray &line);
+
+/// Whether the line is the first one of a trace: the crash handler's own signature.
+bool beginsTrace(const QByteArray &line);
+
+/// Picks the last trace out of a stream of bytes. Holds a bounded part of it, whatever comes: no line longer than
+/// 4 KiB, no more frames than a crash handler writes.
+class TraceReader {
+public:
+    void read(QByteArrayView bytes);
+
+    /// The lines of the last trace, without line ends.
+    QList<QByteArray> lines() const { return traceLines; }
+    /// The modules of its frames, the topmost first.
+    QStringList modules() const { return traceModules; }
+
+private:
+    void endLine();
+    void beginTrace();
+
+    QByteArray currentLine;
+    QList<QByteArray> traceLines;
+    QStringList traceModules;
+    int lastNumber = 0;
+};
