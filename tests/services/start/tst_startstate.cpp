@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "startstate.h"
+
+#include <errorstream.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+class StartStateTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void stateIsReadAsItWasWritten();
+    void noFileIsNoState();
+    void damageIsToldAndIgnored_data();
+    void damageIsToldAndIgnored();
+    void failureIsTold();
+};
+
+void StartStateTest::stateIsReadAsItWasWritten() {
+    const QTemporaryDir directory;
+    const StartState state{{{5s, u"/p/a.so"_s, u"one\ntwo"_s}}, {{u"/p/\"б\".so"_s, 3, u"trace"_s}}};
+    writeState(directory.filePath(u"state"_s), state);
+    QCOMPARE(readState(directory.filePath(u"state"_s)), state);
+}
+
+void StartStateTest::noFileIsNoState() {
+    ErrorStream errors;
+    QCOMPARE(readState(u"/not/there"_s), StartState());
+    QCOMPARE(errors.take(), QByteArray());
+}
+
+void StartStateTest::damageIsToldAndIgnored_data() {
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("not of this form") << QByteArray("[crashes]");
+    QTest::newRow("cut short") << toBytes({{{5s, u"a"_s, {}}}, {}}).chopped(5);
+    QTest::newRow("no list") << QByteArray(R"({"crashes": 3, "leftOut": []})");
+    QTest::newRow("no library") << QByteArray(R"({"crashes": [{"moment": 3, "trace": ""}], "leftOut": []})");
+    QTest::newRow("no number") << QByteArray(
+        R"({"crashes": [{"moment": "x", "library": "a", "trace": ""}], "leftOut": []})");
+    QTest::newRow("left out without a trace")
+        << QByteArray(R"({"crashes": [], "leftOut": [{"library": "a", "crashes": 3}]})");
+}
+
+void StartStateTest::damageIsToldAndIgnored() {
+    QFETCH(const QByteArray, bytes);
+    const QTemporaryDir directory;
+    QFile file(directory.filePath(u"state"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    file.close();
+    ErrorStream errors;
+    QCOMPARE(readState(file.fileName()), StartState());
+    QCOMPARE(errors.take().count('\n'), 1);
+}
+
+void StartStateTest::failureIsTold() {
+    ErrorStream errors;
+    writeState(u"/proc/not/there"_s, {});
+    QVERIFY(errors.take().startsWith("A crash cannot be remembered in /proc/not/there: "));
+}
+
+QTEST_GUILESS_MAIN(StartStateTest)
+#include "tst_startstate.moc"
