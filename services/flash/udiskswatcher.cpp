@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "udiskswatcher.h"
 
-#include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -30,16 +29,21 @@ UDisksWatcher::UDisksWatcher(const QDBusConnection &systemBus, QObject *parent)
     askForObjects();
 }
 
-void UDisksWatcher::interfacesAdded(const QDBusObjectPath &path, const UDisksInterfaces &interfaces) {
-    knownObjects[path].insert(interfaces);
+void UDisksWatcher::interfacesAdded(const QDBusMessage &message) {
+    if (message.signature() != "oa{sa{sv}}"_L1)
+        return;
+    const auto path = message.arguments().at(0).value<QDBusObjectPath>();
+    knownObjects[path].insert(qdbus_cast<UDisksInterfaces>(message.arguments().at(1)));
     emit changed();
 }
 
-void UDisksWatcher::interfacesRemoved(const QDBusObjectPath &path, const QStringList &interfaces) {
-    const auto object = knownObjects.find(path);
+void UDisksWatcher::interfacesRemoved(const QDBusMessage &message) {
+    if (message.signature() != "oas"_L1)
+        return;
+    const auto object = knownObjects.find(message.arguments().at(0).value<QDBusObjectPath>());
     if (object == knownObjects.end())
         return;
-    for (const QString &interface : interfaces)
+    for (const QString &interface : message.arguments().at(1).toStringList())
         object->remove(interface);
     if (object->isEmpty())
         knownObjects.erase(object);
@@ -59,9 +63,9 @@ void UDisksWatcher::ownerChanged(const QString & /*service*/, const QString &old
 
 void UDisksWatcher::subscribe() {
     bus.connect(udisksService, udisksPath, objectManager, u"InterfacesAdded"_s, this,
-                SLOT(interfacesAdded(QDBusObjectPath, UDisksInterfaces)));
+                SLOT(interfacesAdded(QDBusMessage)));
     bus.connect(udisksService, udisksPath, objectManager, u"InterfacesRemoved"_s, this,
-                SLOT(interfacesRemoved(QDBusObjectPath, QStringList)));
+                SLOT(interfacesRemoved(QDBusMessage)));
 }
 
 void UDisksWatcher::askForObjects() {

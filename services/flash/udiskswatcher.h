@@ -4,6 +4,7 @@
 #include "flashpartition.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QDBusServiceWatcher>
 #include <QObject>
 
@@ -21,8 +22,8 @@ signals:
     void changed();
 
 private slots:
-    void interfacesAdded(const QDBusObjectPath &path, const UDisksInterfaces &interfaces);
-    void interfacesRemoved(const QDBusObjectPath &path, const QStringList &interfaces);
+    void interfacesAdded(const QDBusMessage &message);
+    void interfacesRemoved(const QDBusMessage &message);
     void ownerChanged(const QString &service, const QString &oldOwner, const QString &newOwner);
 
 private:
