@@ -431,7 +431,7 @@ void FlashServiceTest::lostBusEndsTheService() {
     QVERIFY(ends());
     QCOMPARE(service.exitStatus(), QProcess::NormalExit);
     QCOMPARE(service.exitCode(), 1);
-    QVERIFY(errors().endsWith("zr-flash-service: a bus has gone\n"));
+    QVERIFY(errors().contains("zr-flash-service: a bus has gone\n"));
 }
 
 void FlashServiceTest::badCommandLinesAreRefused_data() {
