@@ -2,7 +2,7 @@
 #include "flash/flashmanager.h"
 
 #include "errorstream.h"
-#include "filetree.h"
+#include "filesbelow.h"
 #include "flash/flashdialog.h"
 #include "flash/flashspy.h"
 #include "standinprograms.h"
@@ -78,8 +78,8 @@ void FlashManagerTest::init() {
     config.set(u"paths/main"_s, u"reports"_s);
     for (const QString &path : {QDir::homePath(), host(u"/media"_s), host(u"/dev"_s)})
         QDir(path).removeRecursively();
-    writeTree(QDir::homePath(),
-              {{"reports/line 1.txt", "one"}, {"reports/traces/2", "two"}, {"other", "three"}});
+    writeFiles(QDir::homePath(),
+               {{"reports/line 1.txt", "one"}, {"reports/traces/2", "two"}, {"other", "three"}});
     programs = std::make_unique<StandInPrograms>();
     window = std::make_unique<QWidget>();
     window->resize(800, 480);
@@ -96,8 +96,8 @@ void FlashManagerTest::yesCopiesTheReports() {
     for (int time = 0; time < 2; ++time) {
         insertAnd(u"sda1"_s, [this] { press(u"Yes"_s); });
         QCOMPARE(save(), u"true"_s);
-        QCOMPARE(readTree(media(u"sda1"_s)),
-                 FileTree({{"reports/line 1.txt", "one"}, {"reports/traces/2", "two"}}));
+        QCOMPARE(readFiles(media(u"sda1"_s)),
+                 FilesBelow({{"reports/line 1.txt", "one"}, {"reports/traces/2", "two"}}));
         QCOMPARE(dialog()->findChild<QProgressBar *>()->value(), 100);
         QCOMPARE(warning(), QString());
         spy()->removeFlash(u"sda1"_s);
@@ -107,7 +107,7 @@ void FlashManagerTest::yesCopiesTheReports() {
 void FlashManagerTest::emptyFolderNameCopiesTheHome() {
     config.set(u"paths/main"_s, QString());
     insertAnd(u"sda1"_s, [this] { press(u"Yes"_s); });
-    const FileTree copied = readTree(media(u"sda1"_s));
+    const FilesBelow copied = readFiles(media(u"sda1"_s));
     QCOMPARE(copied["other"], "three");
     QCOMPARE(copied["reports/traces/2"], "two");
 }
@@ -115,7 +115,7 @@ void FlashManagerTest::emptyFolderNameCopiesTheHome() {
 void FlashManagerTest::noCopiesNothing() {
     insertAnd(u"sda1"_s, [this] { press(u"No"_s); });
     QCOMPARE(save(), u"false"_s);
-    QCOMPARE(readTree(media(u"sda1"_s)), FileTree());
+    QCOMPARE(readFiles(media(u"sda1"_s)), FilesBelow());
 }
 
 void FlashManagerTest::driveRemovedWhileItIsAskedAboutClosesTheQuestionSilently() {
@@ -133,7 +133,7 @@ void FlashManagerTest::driveRemovedWithoutAQuestionIsSilent() {
 
 void FlashManagerTest::pulledDriveEndsTheCopyAndIsTold() {
     programs->put(u"rsync"_s, "exec /usr/bin/rsync --bwlimit=100 \"$@\"");
-    writeTree(QDir::homePath(), {{"reports/long", QByteArray(5000000, 'x')}});
+    writeFiles(QDir::homePath(), {{"reports/long", QByteArray(5000000, 'x')}});
     insertAnd(u"sda1"_s, [this] {
         press(u"Yes"_s);
         QTRY_VERIFY(QFile::exists(media(u"sda1/reports/line 1.txt"_s)));
@@ -141,7 +141,7 @@ void FlashManagerTest::pulledDriveEndsTheCopyAndIsTold() {
     });
     QCOMPARE(save(), u"false"_s);
     QCOMPARE(warning(), u"Error: \nUSB mass-storage device is plugged out"_s);
-    QVERIFY(!readTree(media(u"sda1"_s)).contains("reports/long"));
+    QVERIFY(!readFiles(media(u"sda1"_s)).contains("reports/long"));
     QVERIFY(!dialog()->isVisible());
 }
 
@@ -153,7 +153,7 @@ void FlashManagerTest::exportAfterAPulledDriveWorks() {
         press(u"Yes"_s);
     });
     QCOMPARE(save(), u"true"_s);
-    QCOMPARE(readTree(media(u"sdb1/reports"_s)), readTree(QDir::homePath() + "/reports"_L1));
+    QCOMPARE(readFiles(media(u"sdb1/reports"_s)), readFiles(QDir::homePath() + "/reports"_L1));
 }
 
 void FlashManagerTest::nextQuestionAfterAnExportTellsOfAPulledDriveThoughNothingWasCopied() {
@@ -180,7 +180,7 @@ void FlashManagerTest::errorsOfTheCopyAreNotShown() {
 }
 
 void FlashManagerTest::errorsOfTheCopyAreShownWhereADeviceHasTheMountDirectorysName() {
-    writeTree(host(u"/dev"_s), {{"media/sda1", QByteArray()}});
+    writeFiles(host(u"/dev"_s), {{"media/sda1", QByteArray()}});
     programs->put(u"rsync"_s, "exit 23");
     insertAnd(u"sda1"_s, [this] { press(u"Yes"_s); });
     QCOMPARE(warning(), u"Error: \nSome files could not be copied. (rsync: exit code 23)"_s);
@@ -200,7 +200,7 @@ void FlashManagerTest::secondDriveAndMountErrorsAreShown() {
 
 void FlashManagerTest::copyEndsWithTheWindow() {
     programs->put(u"rsync"_s, "echo $$ >$0.log; exec /usr/bin/rsync --bwlimit=100 \"$@\"");
-    writeTree(QDir::homePath(), {{"reports/long", QByteArray(5000000, 'x')}});
+    writeFiles(QDir::homePath(), {{"reports/long", QByteArray(5000000, 'x')}});
     insertAnd(u"sda1"_s, [this] {
         press(u"Yes"_s);
         QTRY_VERIFY(QFile::exists(media(u"sda1/reports/line 1.txt"_s)));
@@ -208,7 +208,7 @@ void FlashManagerTest::copyEndsWithTheWindow() {
     });
     window.reset();
     QVERIFY(!QFile::exists("/proc/"_L1 + QString::fromLatin1(programs->log(u"rsync"_s).trimmed())));
-    QVERIFY(!readTree(media(u"sda1"_s)).contains("reports/long"));
+    QVERIFY(!readFiles(media(u"sda1"_s)).contains("reports/long"));
 }
 
 QTEST_MAIN(FlashManagerTest)

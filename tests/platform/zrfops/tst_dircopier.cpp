@@ -2,7 +2,7 @@
 #include "dircopier.h"
 
 #include "errorstream.h"
-#include "filetree.h"
+#include "filesbelow.h"
 #include "smalldrive.h"
 #include "standinprograms.h"
 
@@ -106,60 +106,60 @@ private slots:
 
 void DirCopierTest::treeIsTheSameByteForByte() {
     Desk desk;
-    writeTree(desk.source(), oddlyNamedFiles());
+    writeFiles(desk.source(), oddlyNamedFiles());
     QVERIFY(desk.copy());
     QCOMPARE(desk.exitCode(), 0);
     QCOMPARE(desk.ends.at(0).at(1).value<QProcess::ExitStatus>(), QProcess::NormalExit);
     QVERIFY(desk.errors.isEmpty());
-    QCOMPARE(readTree(desk.drive() + "/reports"_L1), oddlyNamedFiles());
-    QCOMPARE(readTree(desk.source()), oddlyNamedFiles());
+    QCOMPARE(readFiles(desk.drive() + "/reports"_L1), oddlyNamedFiles());
+    QCOMPARE(readFiles(desk.source()), oddlyNamedFiles());
     QCOMPARE(namesIn(desk.drive()), QStringList(u"reports"_s));
     QVERIFY(!desk.copier.isCopying());
 }
 
 void DirCopierTest::secondCopyAddsWhatIsNew() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
-    writeTree(desk.drive(), {{"reports/b", "of the drive"}});
+    writeFiles(desk.source(), {{"a", "1"}});
+    writeFiles(desk.drive(), {{"reports/b", "of the drive"}});
     QVERIFY(desk.copy());
     desk.ends.clear();
-    writeTree(desk.source(), {{"c", "2"}});
+    writeFiles(desk.source(), {{"c", "2"}});
     QVERIFY(desk.copy());
     QCOMPARE(desk.exitCode(), 0);
-    QCOMPARE(readTree(desk.drive()),
-             FileTree({{"reports/a", "1"}, {"reports/b", "of the drive"}, {"reports/c", "2"}}));
+    QCOMPARE(readFiles(desk.drive()),
+             FilesBelow({{"reports/a", "1"}, {"reports/b", "of the drive"}, {"reports/c", "2"}}));
 }
 
 void DirCopierTest::sourceWithASlashGivesItsContents() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}, {"b/c", "2"}});
+    writeFiles(desk.source(), {{"a", "1"}, {"b/c", "2"}});
     desk.begin(desk.source() + u'/', desk.drive());
     QVERIFY(desk.isEnded());
-    QCOMPARE(readTree(desk.drive()), FileTree({{"a", "1"}, {"b/c", "2"}}));
+    QCOMPARE(readFiles(desk.drive()), FilesBelow({{"a", "1"}, {"b/c", "2"}}));
 }
 
 void DirCopierTest::severalSourcesAreCopiedByTheirNames() {
     Desk desk;
-    writeTree(desk.source(), {{"x/1", "1"}, {"y/2", "2"}});
+    writeFiles(desk.source(), {{"x/1", "1"}, {"y/2", "2"}});
     QStringList sources{desk.source() + "/x"_L1, desk.source() + "/y"_L1};
     desk.copier.copyDir(sources, desk.drive());
     QVERIFY(desk.isEnded());
-    QCOMPARE(readTree(desk.drive()), FileTree({{"x/1", "1"}, {"y/2", "2"}}));
+    QCOMPARE(readFiles(desk.drive()), FilesBelow({{"x/1", "1"}, {"y/2", "2"}}));
 }
 
 void DirCopierTest::sourceThatIsALinkIsCopiedByItsOwnName() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     const QString link = desk.directory.filePath(u"saved"_s);
     QVERIFY(QFile::link(desk.source(), link));
     desk.begin(link, desk.drive());
     QVERIFY(desk.isEnded());
-    QCOMPARE(readTree(desk.drive()), FileTree({{"saved/a", "1"}}));
+    QCOMPARE(readFiles(desk.drive()), FilesBelow({{"saved/a", "1"}}));
 }
 
 void DirCopierTest::linksDevicesAndSocketsStayBehind() {
     Desk desk;
-    writeTree(desk.directory.path(), {{"secret/key", "1"}, {"reports/a", "2"}});
+    writeFiles(desk.directory.path(), {{"secret/key", "1"}, {"reports/a", "2"}});
     QVERIFY(QFile::link(desk.directory.filePath(u"secret"_s), desk.source() + "/out"_L1));
     QVERIFY(QFile::link(desk.directory.filePath(u"secret/key"_s), desk.source() + "/file"_L1));
     QVERIFY(QFile::link(desk.source(), desk.source() + "/loop"_L1));
@@ -179,12 +179,12 @@ void DirCopierTest::emptySourceIsCopied() {
 
 void DirCopierTest::everyFileIsCounted() {
     Desk desk;
-    FileTree files;
+    FilesBelow files;
     for (int i = 0; i < 3000; ++i)
         files[QByteArray::number(i % 100) + "/" + QByteArray::number(i)] = QByteArray::number(i);
-    writeTree(desk.source(), files);
+    writeFiles(desk.source(), files);
     QVERIFY(desk.copy());
-    QCOMPARE(readTree(desk.drive() + "/reports"_L1), files);
+    QCOMPARE(readFiles(desk.drive() + "/reports"_L1), files);
     QVERIFY(desk.progress.size() > 2);
     int before = desk.progress.first().at(1).toInt();
     for (const QList<QVariant> &step : desk.progress) {
@@ -201,7 +201,7 @@ void DirCopierTest::progressMovesWithinALongFile() {
     StandInPrograms programs;
     programs.put(u"rsync"_s, "exec /usr/bin/rsync --bwlimit=4000 \"$@\"");
     Desk desk;
-    writeTree(desk.source(), {{"long", QByteArray(8000000, 'x')}});
+    writeFiles(desk.source(), {{"long", QByteArray(8000000, 'x')}});
     QVERIFY(desk.copy());
     QSet<int> counts;
     for (const QList<QVariant> &step : desk.progress)
@@ -214,7 +214,7 @@ void DirCopierTest::nothingIsLeftToDoOnlyWhenTheDriveHasIt() {
     // Looks at what is there when the drive is flushed.
     programs.put(u"sync"_s, "echo \"$@\" >>$0.log; ls \"$2/reports\" >>$0.log; exec /bin/sync \"$@\"");
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     QByteArray logAtLastStep;
     connect(&desk.copier, &DirCopier::setProgress, this, [&](int left) {
         if (left == 0)
@@ -245,7 +245,7 @@ void DirCopierTest::requestThatNamesNothingIsRefused() {
 
 void DirCopierTest::missingDriveIsNotMadeUp() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     QVERIFY(QDir().rmdir(desk.drive()));
     QVERIFY(desk.copy());
     QCOMPARE(desk.errorCode(), 3);
@@ -258,15 +258,15 @@ void DirCopierTest::fullDriveIsToldAndWholeFilesStay() {
     if (!small.isMounted())
         QSKIP("This user may not mount a small file system.");
     Desk desk;
-    const FileTree files{{"a", QByteArray(500000, 'a')}, {"b", QByteArray(900000, 'b')}};
-    writeTree(desk.source(), files);
+    const FilesBelow files{{"a", QByteArray(500000, 'a')}, {"b", QByteArray(900000, 'b')}};
+    writeFiles(desk.source(), files);
     desk.begin(desk.source(), small.path());
     QVERIFY(desk.isEnded());
     QCOMPARE(desk.errorCode(), 11);
     QCOMPARE(desk.exitCode(), 11);
     QVERIFY(desk.errorText().contains(u"No space left on device"_s));
-    QCOMPARE(readTree(small.path()), FileTree({{"reports/a", files["a"]}}));
-    QCOMPARE(readTree(desk.source()), files);
+    QCOMPARE(readFiles(small.path()), FilesBelow({{"reports/a", files["a"]}}));
+    QCOMPARE(readFiles(desk.source()), files);
 }
 
 void DirCopierTest::driveThatCannotBeWrittenIsTold() {
@@ -274,7 +274,7 @@ void DirCopierTest::driveThatCannotBeWrittenIsTold() {
     if (!small.isMounted())
         QSKIP("This user may not mount a small file system.");
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     desk.begin(desk.source(), small.path());
     QVERIFY(desk.isEnded());
     QCOMPARE(desk.errorCode(), 11);
@@ -285,7 +285,7 @@ void DirCopierTest::driveThatDoesNotTakeTheDataIsTold() {
     StandInPrograms programs;
     programs.put(u"sync"_s, "echo 'sync: error syncing: Input/output error' >&2; exit 1");
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     QVERIFY(desk.copy());
     QCOMPARE(desk.errorCode(), 11);
     QCOMPARE(desk.exitCode(), 11);
@@ -298,7 +298,7 @@ void DirCopierTest::unreadableFilesAreToldAndTheOthersCopied() {
     if (::getuid() == 0)
         programs.put(u"rsync"_s, "exec setpriv --reuid=65534 --clear-groups /usr/bin/rsync \"$@\"");
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}, {"closed", "2"}});
+    writeFiles(desk.source(), {{"a", "1"}, {"closed", "2"}});
     for (const QString &path : {desk.directory.path(), desk.source(), desk.drive()})
         ::chmod(QFile::encodeName(path).constData(), 0777);
     ::chmod(QFile::encodeName(desk.source() + "/closed"_L1).constData(), 0);
@@ -313,7 +313,7 @@ void DirCopierTest::unreadableFilesAreToldAndTheOthersCopied() {
     QCOMPARE(desk.errorCode(), 23);
     QVERIFY(desk.errorText().contains(u"Permission denied"_s));
     QVERIFY(desk.errorText().contains(u"closed"_s));
-    QCOMPARE(readTree(desk.drive()), FileTree({{"reports/a", "1"}}));
+    QCOMPARE(readFiles(desk.drive()), FilesBelow({{"reports/a", "1"}}));
 }
 
 void DirCopierTest::exitCodeBecomesASentence_data() {
@@ -386,7 +386,7 @@ void DirCopierTest::cancelledCopyLeavesNoHalfFile() {
     StandInPrograms programs;
     programs.put(u"rsync"_s, slowRsync);
     Desk desk;
-    writeTree(desk.source(), {{"long", QByteArray(20000000, 'x')}});
+    writeFiles(desk.source(), {{"long", QByteArray(20000000, 'x')}});
     desk.begin(desk.source(), desk.drive());
     QTRY_VERIFY(desk.progress.size() > 2);
     desk.copier.cancel();
@@ -394,7 +394,7 @@ void DirCopierTest::cancelledCopyLeavesNoHalfFile() {
     QCOMPARE(desk.exitCode(), 20);
     QCOMPARE(desk.ends.at(0).at(1).value<QProcess::ExitStatus>(), QProcess::CrashExit);
     QTRY_VERIFY(isGone(programs.log(u"rsync"_s)));
-    QCOMPARE(readTree(desk.drive()), FileTree());
+    QCOMPARE(readFiles(desk.drive()), FilesBelow());
     QVERIFY(desk.errors.isEmpty());
 }
 
@@ -402,7 +402,7 @@ void DirCopierTest::cancelledCopyEndsOnceAndAnotherWorks() {
     StandInPrograms programs;
     programs.put(u"rsync"_s, slowRsync);
     Desk desk;
-    writeTree(desk.source(), {{"long", QByteArray(5000000, 'x')}});
+    writeFiles(desk.source(), {{"long", QByteArray(5000000, 'x')}});
     desk.begin(desk.source(), desk.drive());
     QTRY_VERIFY(desk.progress.size() > 2);
     desk.copier.cancel();
@@ -412,14 +412,14 @@ void DirCopierTest::cancelledCopyEndsOnceAndAnotherWorks() {
     programs.put(u"rsync"_s, "exec /usr/bin/rsync \"$@\"");
     QVERIFY(desk.copy());
     QCOMPARE(desk.exitCode(), 0);
-    QCOMPARE(readTree(desk.drive() + "/reports"_L1), readTree(desk.source()));
+    QCOMPARE(readFiles(desk.drive() + "/reports"_L1), readFiles(desk.source()));
 }
 
 void DirCopierTest::copyEndsWithItsCopier() {
     StandInPrograms programs;
     programs.put(u"rsync"_s, slowRsync);
     QTemporaryDir directory;
-    writeTree(directory.path(), {{"reports/long", QByteArray(20000000, 'x')}});
+    writeFiles(directory.path(), {{"reports/long", QByteArray(20000000, 'x')}});
     QDir(directory.path()).mkpath(u"drive"_s);
     {
         DirCopier copier;
@@ -430,20 +430,20 @@ void DirCopierTest::copyEndsWithItsCopier() {
     }
     // Its helpers were told to end as well; the machine takes them away a moment later.
     QTRY_VERIFY(isGone(programs.log(u"rsync"_s)));
-    QCOMPARE(readTree(directory.filePath(u"drive"_s)), FileTree());
+    QCOMPARE(readFiles(directory.filePath(u"drive"_s)), FilesBelow());
     QCOMPARE(namesIn(directory.filePath(u"drive"_s)), QStringList(u"reports"_s));
 }
 
 void DirCopierTest::secondRequestIsRefusedAndTheFirstGoesOn() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
+    writeFiles(desk.source(), {{"a", "1"}});
     desk.begin(desk.source(), desk.drive());
     desk.begin(u"/etc"_s, desk.drive());
     QVERIFY(desk.isEnded());
     QCOMPARE(desk.exitCode(), 0);
     QCOMPARE(desk.errors.size(), 1);
     QCOMPARE(desk.errorCode(), -2);
-    QCOMPARE(readTree(desk.drive()), FileTree({{"reports/a", "1"}}));
+    QCOMPARE(readFiles(desk.drive()), FilesBelow({{"reports/a", "1"}}));
 }
 
 void DirCopierTest::errorHandlerMayCancel() {
@@ -457,8 +457,8 @@ void DirCopierTest::errorHandlerMayCancel() {
 
 void DirCopierTest::leftoversOfAPulledDriveAreRemoved() {
     Desk desk;
-    writeTree(desk.source(), {{"a", "1"}});
-    writeTree(desk.drive(), {{".zrfops-incomplete/half", "2"}});
+    writeFiles(desk.source(), {{"a", "1"}});
+    writeFiles(desk.drive(), {{".zrfops-incomplete/half", "2"}});
     QVERIFY(desk.copy());
     QCOMPARE(namesIn(desk.drive()), QStringList(u"reports"_s));
 }

@@ -5,10 +5,10 @@
 #include <QMap>
 
 /// Files for a test, by path below a directory.
-using FileTree = QMap<QByteArray, QByteArray>;
+using FilesBelow = QMap<QByteArray, QByteArray>;
 
-void writeTree(const QString &directory, const FileTree &files);
+void writeFiles(const QString &directory, const FilesBelow &files);
 /// All regular files below, hidden ones as well.
-FileTree readTree(const QString &directory);
+FilesBelow readFiles(const QString &directory);
 /// Names as they come up in the field, and worse: blanks, line feeds, per cent signs, Cyrillic, 255 bytes.
-FileTree oddlyNamedFiles();
+FilesBelow oddlyNamedFiles();

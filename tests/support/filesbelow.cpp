@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "filetree.h"
+#include "filesbelow.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
 
-void writeTree(const QString &directory, const FileTree &files) {
+void writeFiles(const QString &directory, const FilesBelow &files) {
     for (auto file = files.cbegin(); file != files.cend(); ++file) {
         QFile target(directory + u'/' + QFile::decodeName(file.key()));
         QDir().mkpath(QFileInfo(target).path());
@@ -14,8 +14,8 @@ void writeTree(const QString &directory, const FileTree &files) {
     }
 }
 
-FileTree readTree(const QString &directory) {
-    FileTree files;
+FilesBelow readFiles(const QString &directory) {
+    FilesBelow files;
     QDirIterator entries(directory, QDir::Files | QDir::Hidden | QDir::NoSymLinks,
                          QDirIterator::Subdirectories);
     while (entries.hasNext()) {
@@ -27,7 +27,7 @@ FileTree readTree(const QString &directory) {
     return files;
 }
 
-FileTree oddlyNamedFiles() {
+FilesBelow oddlyNamedFiles() {
     return {
         {"plain.txt", "one\n"},
         {"empty", QByteArray()},
