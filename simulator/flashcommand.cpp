@@ -65,8 +65,8 @@ int removeDrive() {
     const QString name = SimulatedDrive::inserted();
     if (name.isEmpty())
         return fail(u"no drive is inserted"_s);
-    SimulatedDrive(name).remove();
-    return announce(u"removed"_s, name);
+    const QString error = SimulatedDrive(name).remove();
+    return !error.isEmpty() ? fail(error) : announce(u"removed"_s, name);
 }
 
 int failMount(const QString &code) {
@@ -89,6 +89,9 @@ QString flashCommandHelp() {
 int runFlashCommand(const QStringList &words, int argc, char *argv[]) {
     const QCoreApplication application(argc, argv);
     const QString verb = words.value(0);
+    // This machine's own drives are none of ours.
+    if (qEnvironmentVariableIsEmpty("ZR_SYSROOT") && (verb == "insert"_L1 || verb == "remove"_L1))
+        return fail(u"ZR_SYSROOT names no simulated instrument"_s);
     if (verb == "insert"_L1 && words.size() >= 2)
         return insertDrive(words.at(1), words.mid(2));
     if (verb == "remove"_L1 && words.size() == 1)

@@ -7,6 +7,7 @@
 
 #include <QFrame>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -26,6 +27,10 @@ constexpr int questionMargin = 8;
 constexpr int questionPointSize = 18;
 constexpr QSize spaceBesideBar(5, 30);
 constexpr int fullBar = 100;
+
+QString mountDirectory() {
+    return ZrLauncherConfig(u"flash"_s, u"dir"_s).string();
+}
 
 } // namespace
 
@@ -96,11 +101,14 @@ void FlashDialog::showDialog() {
         isAskedAgain = true;
         return;
     }
+    const QPointer<FlashDialog> alive = this;
     isAsking = true;
     ask();
+    if (!alive)
+        return;
     isAsking = false;
     // A drive that came and went meanwhile is not asked about.
-    if (std::exchange(isAskedAgain, false) && !ZrLauncherConfig(u"flash"_s, u"dir"_s).string().isEmpty())
+    if (std::exchange(isAskedAgain, false) && !mountDirectory().isEmpty())
         QMetaObject::invokeMethod(this, &FlashDialog::showDialog, Qt::QueuedConnection);
 }
 
@@ -108,8 +116,10 @@ void FlashDialog::ask() {
     progressBar->hide();
     progressBar->setValue(0);
     progressBar->setTextVisible(false);
+    const QString drive = mountDirectory();
     const int result = exec();
-    ZrLauncherConfig(u"flash"_s, u"save"_s) = result != 0;
+    // The answer may come late, from below another question: it counts for the drive that was asked about.
+    ZrLauncherConfig(u"flash"_s, u"save"_s) = result != 0 && mountDirectory() == drive;
 }
 
 void FlashDialog::exportClicked() {

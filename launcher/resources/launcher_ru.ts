@@ -123,6 +123,101 @@
     </message>
 </context>
 <context>
+    <name>DirCopier</name>
+    <message>
+        <source>Another copy is still running.</source>
+        <translation>Предыдущее копирование ещё не закончено.</translation>
+    </message>
+    <message>
+        <source>The copying program could not be started.</source>
+        <translation>Не удалось запустить программу копирования.</translation>
+    </message>
+    <message>
+        <source>The copying program did not understand its orders.</source>
+        <translation>Программа копирования не поняла задание.</translation>
+    </message>
+    <message>
+        <source>The parts of the copying program do not fit together.</source>
+        <translation>Части программы копирования несовместимы.</translation>
+    </message>
+    <message>
+        <source>What is to be copied, or the place for it, is not there.</source>
+        <translation>Нет того, что нужно скопировать, или места для копии.</translation>
+    </message>
+    <message>
+        <source>The copying program cannot do what it was asked for.</source>
+        <translation>Программа копирования не умеет того, что от неё требуется.</translation>
+    </message>
+    <message>
+        <source>The parts of the copying program could not begin to talk.</source>
+        <translation>Части программы копирования не смогли начать обмен.</translation>
+    </message>
+    <message>
+        <source>The copying program cannot write its log.</source>
+        <translation>Программа копирования не может вести журнал.</translation>
+    </message>
+    <message>
+        <source>A connection broke while copying.</source>
+        <translation>При копировании прервалась связь.</translation>
+    </message>
+    <message>
+        <source>The drive is full, cannot be written, or did not take all the data.</source>
+        <translation>Накопитель заполнен, защищён от записи или принял не все данные.</translation>
+    </message>
+    <message>
+        <source>The copying program lost its data stream.</source>
+        <translation>Программа копирования потеряла поток данных.</translation>
+    </message>
+    <message>
+        <source>The copying program cannot tell what it does.</source>
+        <translation>Программа копирования не может сообщить о своей работе.</translation>
+    </message>
+    <message>
+        <source>The parts of the copying program lost each other.</source>
+        <translation>Части программы копирования потеряли связь друг с другом.</translation>
+    </message>
+    <message>
+        <source>The copy was ended before it was complete.</source>
+        <translation>Копирование прервано до его завершения.</translation>
+    </message>
+    <message>
+        <source>A part of the copying program could not be waited for.</source>
+        <translation>Не удалось дождаться завершения части программы копирования.</translation>
+    </message>
+    <message>
+        <source>There was not enough memory to copy.</source>
+        <translation>Для копирования не хватило памяти.</translation>
+    </message>
+    <message>
+        <source>Some files could not be copied.</source>
+        <translation>Некоторые файлы не удалось скопировать.</translation>
+    </message>
+    <message>
+        <source>Some files vanished before they could be copied.</source>
+        <translation>Некоторые файлы исчезли раньше, чем были скопированы.</translation>
+    </message>
+    <message>
+        <source>The copying program would have had to delete too much.</source>
+        <translation>Программе копирования пришлось бы удалить слишком много.</translation>
+    </message>
+    <message>
+        <source>The copy took too long.</source>
+        <translation>Копирование заняло слишком много времени.</translation>
+    </message>
+    <message>
+        <source>The other side of the copy took too long to answer.</source>
+        <translation>Вторая сторона копирования слишком долго не отвечала.</translation>
+    </message>
+    <message>
+        <source>The copy failed for an unknown reason.</source>
+        <translation>Копирование не удалось по неизвестной причине.</translation>
+    </message>
+    <message>
+        <source>(rsync: exit code %1)</source>
+        <translation>(rsync: код завершения %1)</translation>
+    </message>
+</context>
+<context>
     <name>FileContent</name>
     <message>
         <source>This file cannot be read.</source>
@@ -147,6 +242,83 @@
     <message>
         <source>This is not a text; its first bytes are shown.</source>
         <translation>Это не текст; показаны первые байты.</translation>
+    </message>
+</context>
+<context>
+    <name>FlashDialog</name>
+    <message>
+        <source>Do you want to copy all saved reports and trace files to flash?
+
+ They will be saved to &quot;%1&quot; folder of
+ a root directory of your flash card.
+
+ All following reports and trace files will be saved to device
+ as well as to flash card.</source>
+        <translation>Скопировать все сохранённые отчёты и рефлектограммы на флеш-накопитель?
+
+ Они будут сохранены в папке «%1»
+ корневого каталога накопителя.
+
+ Все последующие отчёты и рефлектограммы будут сохраняться
+ и в приборе, и на накопителе.</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Да</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>FlashManager</name>
+    <message>
+        <source>Error: </source>
+        <translation>Ошибка: </translation>
+    </message>
+    <message>
+        <source>USB mass-storage device is plugged out</source>
+        <translation>USB-накопитель отключён</translation>
+    </message>
+    <message>
+        <source>incorrect invocation or permissions</source>
+        <translation>неверный вызов или недостаточно прав</translation>
+    </message>
+    <message>
+        <source>system error (out of memory, cannot fork, no more loop devices)</source>
+        <translation>системная ошибка (нехватка памяти, процессов или петлевых устройств)</translation>
+    </message>
+    <message>
+        <source>internal mount bug</source>
+        <translation>внутренняя ошибка программы mount</translation>
+    </message>
+    <message>
+        <source>user interrupt</source>
+        <translation>прервано пользователем</translation>
+    </message>
+    <message>
+        <source>problems writing or locking /etc/mtab</source>
+        <translation>не удаётся записать или заблокировать /etc/mtab</translation>
+    </message>
+    <message>
+        <source>mount failure</source>
+        <translation>ошибка подключения файловой системы</translation>
+    </message>
+    <message>
+        <source>some mount succeeded</source>
+        <translation>подключено лишь частично</translation>
+    </message>
+</context>
+<context>
+    <name>FlashSpy</name>
+    <message>
+        <source>Only one flash card can be used. Please, remove currently installed</source>
+        <translation>Можно использовать только один флеш-накопитель. Извлеките установленный</translation>
+    </message>
+    <message>
+        <source>Error %1:</source>
+        <translation>Ошибка %1:</translation>
     </message>
 </context>
 <context>
@@ -230,6 +402,25 @@ Tools</source>
     </message>
 </context>
 <context>
+    <name>LeftOutNote</name>
+    <message>
+        <source>A plug-in was left out</source>
+        <translation>Подключаемый модуль исключён</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation>Исключён: %1</translation>
+    </message>
+    <message>
+        <source>Nothing more is known about it.</source>
+        <translation>Больше о нём ничего не известно.</translation>
+    </message>
+    <message>
+        <source>The program crashed in %1, %2 times within a minute. It is tried again the next time the instrument is switched on.</source>
+        <translation>Сбой программы произошёл в модуле %1, раз за минуту: %2. При следующем включении прибора модуль будет загружен снова.</translation>
+    </message>
+</context>
+<context>
     <name>NetworkPlugin</name>
     <message>
         <source>Network</source>
@@ -287,6 +478,21 @@ Tools</source>
     <message>
         <source>Network</source>
         <translation>Сеть</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeWindow</name>
+    <message>
+        <source>Save report</source>
+        <translation>Сохранить отчёт</translation>
+    </message>
+    <message>
+        <source>Report not saved: %1</source>
+        <translation>Отчёт не сохранён: %1</translation>
+    </message>
+    <message>
+        <source>Report saved: %1</source>
+        <translation>Отчёт сохранён: %1</translation>
     </message>
 </context>
 <context>

@@ -19,9 +19,9 @@ constexpr int timeToDie = 500;
 
 } // namespace
 
-CopyProcess::CopyProcess(const QString &program, const QStringList &arguments) {
-    setProgram(program);
-    setArguments(arguments);
+CopyProcess::CopyProcess(const CopyCommands::Command &command) {
+    setProgram(command.program);
+    setArguments(command.arguments);
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     // Its lines are read.
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
@@ -74,12 +74,12 @@ void CopyProcess::abandon() {
     QTimer::singleShot(timeToEnd, this, [this] { signalGroup(SIGKILL); });
 }
 
-void CopyProcess::endAndWait() {
+bool CopyProcess::endAndWait() {
     if (state() == NotRunning)
-        return;
+        return true;
     signalGroup(SIGTERM);
     if (waitForFinished(std::chrono::milliseconds(timeToEnd).count()))
-        return;
+        return true;
     signalGroup(SIGKILL);
-    waitForFinished(timeToDie);
+    return waitForFinished(timeToDie);
 }

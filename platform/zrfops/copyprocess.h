@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "copycommands.h"
 #include "linesplitter.h"
 
 #include <QProcess>
@@ -13,7 +14,7 @@ class CopyProcess : public QProcess {
     Q_OBJECT
 
 public:
-    CopyProcess(const QString &program, const QStringList &arguments);
+    explicit CopyProcess(const CopyCommands::Command &command);
 
     /// Lines of standard output that have come since the last call, the last one perhaps without its end.
     QList<QByteArray> takeLines();
@@ -22,8 +23,8 @@ public:
     /// Asks the whole group to end, and kills it if it has not after two seconds. Nothing is waited for; the object
     /// deletes itself when the program is gone.
     void abandon();
-    /// The same, but waits for it. The object may be deleted then.
-    void endAndWait();
+    /// The same, but waits for it. False when it is still there: deleting the object would wait for half a minute.
+    bool endAndWait();
 
 private slots:
     void passMessagesOn();

@@ -1,39 +1,34 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "dircopier.h"
 
+#include "copycommands.h"
 #include "copyerror.h"
 #include "copyprocess.h"
-#include "rsyncarguments.h"
 #include "rsyncprogress.h"
 
 #include <QDir>
+#include <QFileInfo>
+#include <QPointer>
+#include <QTimer>
 
 #include <cerrno>
-#include <sys/stat.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
-constexpr mode_t ownerOnly = 0700;
+constexpr auto timeToHearOfARemoval = 1500ms;
 
-void removeIncompleteFiles(const QString &destination) {
-    QDir(destination + u'/' + RsyncArguments::incompleteDirectory()).removeRecursively();
-}
-
-/// rsync writes in there; it makes no such directory by itself. Also tells a drive that is not there, or cannot be written.
-int makeIncompleteDirectory(const QString &destination) {
-    removeIncompleteFiles(destination);
-    const QString directory = destination + u'/' + RsyncArguments::incompleteDirectory();
-    return ::mkdir(QFile::encodeName(directory).constData(), ownerOnly) == 0 ? 0 : errno;
+void startDetached(const CopyCommands::Command &command) {
+    QProcess::startDetached(command.program, command.arguments);
 }
 
 } // namespace
 
 /// The copy under way. Calls that are queued for it go with it.
 struct DirCopier::Copy : public QObject {
-    explicit Copy(QString mountPoint) : destination(std::move(mountPoint)) {}
-
+    QStringList sources;
     QString destination;
     /// Null before the first one and between two of them.
     CopyProcess *process = nullptr;
@@ -49,9 +44,11 @@ DirCopier::~DirCopier() {
     if (!copy || !copy->process)
         return;
     copy->process->disconnect(this);
-    copy->process->endAndWait();
-    delete copy->process;
-    removeIncompleteFiles(copy->destination);
+    // One that hangs in the kernel cannot be waited for: its object is left to the end of the program.
+    if (copy->process->endAndWait()) {
+        delete copy->process;
+        startDetached(CopyCommands::cleanUp(copy->destination));
+    }
 }
 
 bool DirCopier::isCopying() const {
@@ -63,65 +60,75 @@ void DirCopier::copyDir(QStringList &sources, QString destination) {
         QMetaObject::invokeMethod(this, &DirCopier::refuse, Qt::QueuedConnection);
         return;
     }
-    copy = std::make_unique<Copy>(destination);
+    copy = std::make_unique<Copy>();
+    copy->sources = sources;
+    copy->destination = destination;
     if (destination.isEmpty() || sources.isEmpty() || sources.contains(QString())) {
-        failLater(CopyError::FileSelection, QString());
+        QMetaObject::invokeMethod(
+            copy.get(), [this] { fail(CopyError::FileSelection, QProcess::NormalExit, QString()); },
+            Qt::QueuedConnection);
         return;
     }
-    if (const int error = makeIncompleteDirectory(destination)) {
-        failLater(error == ENOENT || error == ENOTDIR ? CopyError::FileSelection : CopyError::FileAccess,
-                  destination + ": "_L1 + qt_error_string(error));
-        return;
-    }
-    run(u"rsync"_s, RsyncArguments::copying(sources, destination), &DirCopier::copied);
+    run(CopyCommands::prepare(destination), &DirCopier::prepared);
 }
 
 void DirCopier::refuse() {
     emit rsyncErrorHappened(CopyError::Busy, CopyError::description(CopyError::Busy, QString()));
 }
 
-void DirCopier::failLater(int code, const QString &detail) {
-    QMetaObject::invokeMethod(
-        copy.get(),
-        [this, code, detail] {
-            tellError(code, detail);
-            finish(code, QProcess::NormalExit);
-        },
-        Qt::QueuedConnection);
-}
-
-void DirCopier::tellError(int code, const QString &detail) {
-    emit rsyncErrorHappened(code, CopyError::description(code, detail));
-}
-
-void DirCopier::run(const QString &program, const QStringList &arguments,
-                    void (DirCopier::*ended)(int, QProcess::ExitStatus)) {
-    copy->process = new CopyProcess(program, arguments);
-    connect(copy->process, &QProcess::readyReadStandardOutput, this, &DirCopier::readProgress);
-    connect(copy->process, &QProcess::finished, this, ended);
+void DirCopier::run(const CopyCommands::Command &command, Handler ended) {
+    auto *const process = new CopyProcess(command);
+    copy->process = process;
+    connect(process, &QProcess::readyReadStandardOutput, this, &DirCopier::readProgress);
+    connect(process, &QProcess::finished, this, ended);
     // From the event loop also when the program is not there at all.
     connect(
-        copy->process, &QProcess::errorOccurred, this,
-        [this](QProcess::ProcessError error) {
-            if (error == QProcess::FailedToStart)
+        process, &QProcess::errorOccurred, copy.get(),
+        [this, process](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart && copy->process == process)
                 couldNotStart();
         },
         Qt::QueuedConnection);
-    copy->process->start();
+    process->start();
 }
 
 void DirCopier::couldNotStart() {
-    if (!copy || !copy->process)
-        return;
     const QString reason = copy->process->program() + ": "_L1 + copy->process->errorString();
     dropProcess();
-    tellError(CopyError::NotStarted, reason);
-    finish(CopyError::NotStarted, QProcess::NormalExit);
+    fail(CopyError::NotStarted, QProcess::NormalExit, reason);
 }
 
-void DirCopier::dropProcess() {
-    copy->process->disconnect(this);
-    std::exchange(copy->process, nullptr)->deleteLater();
+QString DirCopier::dropProcess() {
+    CopyProcess *const process = std::exchange(copy->process, nullptr);
+    process->disconnect(this);
+    process->deleteLater();
+    return process->firstMessage();
+}
+
+void DirCopier::prepared(int exitCode, QProcess::ExitStatus exitStatus) {
+    const QString message = dropProcess();
+    if (exitStatus != QProcess::NormalExit || exitCode != 0) {
+        fail(QFileInfo(copy->destination).isDir() ? CopyError::FileAccess : CopyError::FileSelection,
+             exitStatus, message);
+        return;
+    }
+    // rsync would take it away without a word.
+    if (const QString obstacle = obstacleInTheWay(); !obstacle.isEmpty()) {
+        fail(CopyError::FileSelection, QProcess::NormalExit, obstacle);
+        return;
+    }
+    run(CopyCommands::copy(copy->sources, copy->destination), &DirCopier::copied);
+}
+
+QString DirCopier::obstacleInTheWay() const {
+    for (const QString &source : std::as_const(copy->sources)) {
+        const QString name =
+            source.endsWith(u'/') ? QString() : QFileInfo(QDir::cleanPath(source)).fileName();
+        const QFileInfo target(copy->destination + u'/' + name);
+        if (target.isSymLink() || (target.exists() && !target.isDir()))
+            return target.filePath() + ": "_L1 + qt_error_string(ENOTDIR);
+    }
+    return {};
 }
 
 void DirCopier::readProgress() {
@@ -135,38 +142,48 @@ void DirCopier::readProgress() {
 }
 
 void DirCopier::copied(int exitCode, QProcess::ExitStatus exitStatus) {
+    const QPointer<Copy> finished = copy.get();
     readProgress();
+    // A listener may have cancelled the copy, and begun another.
+    if (!finished)
+        return;
     copy->exitStatus = exitStatus;
     copy->exitCode = exitStatus == QProcess::NormalExit ? exitCode : CopyError::Interrupted;
-    const QString message = copy->process->firstMessage();
-    dropProcess();
-    removeIncompleteFiles(copy->destination);
+    const QString message = dropProcess();
     if (copy->exitCode != 0)
-        tellError(copy->exitCode, message);
-    // What was copied before an error is worth keeping as well. A listener may have cancelled the copy.
-    if (copy)
-        run(u"sync"_s, {u"--file-system"_s, copy->destination}, &DirCopier::flushed);
+        emit rsyncErrorHappened(copy->exitCode, CopyError::description(copy->exitCode, message));
+    // What was copied before an error is worth keeping as well.
+    if (finished)
+        run(CopyCommands::flush(copy->destination), &DirCopier::flushed);
 }
 
 void DirCopier::flushed(int exitCode, QProcess::ExitStatus exitStatus) {
-    const bool isFlushed = exitStatus == QProcess::NormalExit && exitCode == 0;
-    const QString message = copy->process->firstMessage();
-    dropProcess();
+    const QPointer<Copy> finished = copy.get();
+    const QString message = dropProcess();
     if (copy->exitCode != 0) {
-        finish(copy->exitCode, copy->exitStatus);
-    } else if (!isFlushed) {
-        tellError(CopyError::FileAccess, message);
-        finish(CopyError::FileAccess, exitStatus);
+        finishLater(copy->exitCode, copy->exitStatus);
+    } else if (exitStatus != QProcess::NormalExit || exitCode != 0) {
+        fail(CopyError::FileAccess, exitStatus, message);
     } else {
         emit setProgress(0, copy->progress.total());
-        finish(0, QProcess::NormalExit);
+        if (finished)
+            finish(0, QProcess::NormalExit);
     }
 }
 
+void DirCopier::fail(int code, QProcess::ExitStatus exitStatus, const QString &detail) {
+    const QPointer<Copy> failed = copy.get();
+    emit rsyncErrorHappened(code, CopyError::description(code, detail));
+    if (failed)
+        finishLater(code, exitStatus);
+}
+
+void DirCopier::finishLater(int exitCode, QProcess::ExitStatus exitStatus) {
+    QTimer::singleShot(timeToHearOfARemoval, copy.get(),
+                       [this, exitCode, exitStatus] { finish(exitCode, exitStatus); });
+}
+
 void DirCopier::finish(int exitCode, QProcess::ExitStatus exitStatus) {
-    // A listener may have cancelled the copy, or begun another.
-    if (!copy)
-        return;
     copy.reset();
     emit cmdFinished(exitCode, exitStatus);
 }
@@ -176,7 +193,15 @@ void DirCopier::cancel() {
         return;
     if (CopyProcess *const process = std::exchange(copy->process, nullptr)) {
         process->disconnect(this);
+        connect(process, &QProcess::finished, this,
+                [this, destination = copy->destination] { cleanUpUnlessCopying(destination); });
         process->abandon();
     }
     finish(CopyError::Interrupted, QProcess::CrashExit);
+}
+
+void DirCopier::cleanUpUnlessCopying(const QString &destination) {
+    // Another copy to the same place has emptied the directory already, and uses it.
+    if (!copy)
+        startDetached(CopyCommands::cleanUp(destination));
 }

@@ -7,17 +7,22 @@
 
 #include <memory>
 
+namespace CopyCommands {
+struct Command;
+}
+
 /// Copies directories to a removable drive with rsync, and waits until the drive has the data.
 ///
-/// Made for FAT: neither owners nor modes, times that may be two seconds off; links, devices and sockets are left out. A
-/// file has its final name when it is whole. What the destination holds already and is not in the sources stays. One copy at
-/// a time. GUI thread only, nothing here blocks; all signals come from the event loop, except after cancel().
+/// Made for FAT: neither owners nor modes, times that may be two seconds off; links, devices, sockets and other file systems
+/// are left out. A file has its final name when the drive has its data. What the destination holds already and is not in
+/// the sources stays. One copy at a time. GUI thread only, nothing here blocks; all signals come from the event loop,
+/// except after cancel().
 class DirCopier : public QObject {
     Q_OBJECT
 
 public:
     explicit DirCopier(QObject *parent = nullptr);
-    /// Ends a running copy and waits, up to two seconds, until its processes are gone.
+    /// Ends a running copy and waits, up to three seconds, until rsync is gone.
     ~DirCopier() override;
 
     /// Begins to copy each of `sources` (paths of directories) into the existing directory `destination`. A source that
@@ -40,22 +45,28 @@ signals:
     /// for the user. cmdFinished() follows, except for -2.
     void rsyncErrorHappened(int errorCode, const QString &errorDesc);
     /// The copy is over, and when `exitCode` is 0 all data is on the drive. Exactly once for every copy that was begun.
+    /// After an error it is told 1.5 seconds late: a drive that was pulled fails before anybody says that it was pulled.
     void cmdFinished(int exitCode, QProcess::ExitStatus exitStatus);
 
 private:
     struct Copy;
+    using Handler = void (DirCopier::*)(int, QProcess::ExitStatus);
 
-    void run(const QString &program, const QStringList &arguments,
-             void (DirCopier::*ended)(int, QProcess::ExitStatus));
+    /// What stands on the drive under the name of a directory that is to be copied and is none.
+    QString obstacleInTheWay() const;
+    void run(const CopyCommands::Command &command, Handler ended);
+    void prepared(int exitCode, QProcess::ExitStatus exitStatus);
     void readProgress();
     void copied(int exitCode, QProcess::ExitStatus exitStatus);
     void flushed(int exitCode, QProcess::ExitStatus exitStatus);
     void couldNotStart();
-    void dropProcess();
+    /// The running process is no more ours. What it said first.
+    QString dropProcess();
     void refuse();
-    void failLater(int code, const QString &detail);
-    void tellError(int code, const QString &detail);
+    void fail(int code, QProcess::ExitStatus exitStatus, const QString &detail);
+    void finishLater(int exitCode, QProcess::ExitStatus exitStatus);
     void finish(int exitCode, QProcess::ExitStatus exitStatus);
+    void cleanUpUnlessCopying(const QString &destination);
 
     /// The running copy, or null.
     std::unique_ptr<Copy> copy;

@@ -6,6 +6,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QPushButton>
 
 #include <iostream>
@@ -54,7 +55,10 @@ int WarningWindow::exec(const QString &text, const QString &detail, const QStrin
     rejectButton->setText(rejectText);
     setRejectable(true);
     setMessage({text, detail});
+    const QPointer<WarningWindow> alive = this;
     const int answer = QDialog::exec();
+    if (!alive)
+        return answer;
     isAsking = false;
     showFirst();
     return answer;

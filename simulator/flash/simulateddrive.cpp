@@ -113,11 +113,10 @@ QString SimulatedDrive::insertDirectory() const {
     return {};
 }
 
-void SimulatedDrive::remove() {
-    if (run(u"mountpoint"_s, {u"-q"_s, mountDirectory()})) {
-        run(u"umount"_s, {u"--lazy"_s, mountDirectory()});
-        QDir().rmdir(mountDirectory());
-    } else {
-        QDir().rename(mountDirectory(), keptDirectory());
-    }
+QString SimulatedDrive::remove() {
+    const bool isMounted = run(u"mountpoint"_s, {u"-q"_s, mountDirectory()});
+    const bool isRemoved =
+        isMounted ? run(u"umount"_s, {u"--lazy"_s, mountDirectory()}) && QDir().rmdir(mountDirectory())
+                  : QDir().rename(mountDirectory(), keptDirectory());
+    return isRemoved ? QString() : u"cannot take %1 away"_s.arg(mountDirectory());
 }

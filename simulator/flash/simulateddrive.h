@@ -21,8 +21,8 @@ public:
     /// Makes it appear at the mount directory. The size counts for a drive that is used for the first time. An error
     /// text, or nothing.
     QString insert(int megabytes);
-    /// Pulls it, whoever uses it.
-    void remove();
+    /// Pulls it, whoever uses it. An error text, or nothing.
+    QString remove();
 
     /// Of what kind the inserted drive is, empty for a directory.
     QString fileSystem() const { return fileSystemType; }

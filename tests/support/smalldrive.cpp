@@ -5,14 +5,14 @@
 
 #include <sys/mount.h>
 
-SmallDrive::SmallDrive(int kilobytes, bool isReadOnly) {
+SmallDrive::SmallDrive(int kilobytes, const QString &place, bool isReadOnly)
+    : mountPoint(place.isEmpty() ? directory.path() : place) {
     const QByteArray data = "size=" + QByteArray::number(kilobytes) + 'k';
     const unsigned long flags = isReadOnly ? MS_RDONLY : 0;
-    mounted = ::mount("none", QFile::encodeName(directory.path()).constData(), "tmpfs", flags,
-                      data.constData()) == 0;
+    mounted = ::mount("none", QFile::encodeName(mountPoint).constData(), "tmpfs", flags, data.constData()) == 0;
 }
 
 SmallDrive::~SmallDrive() {
     if (mounted)
-        ::umount2(QFile::encodeName(directory.path()).constData(), MNT_DETACH);
+        ::umount2(QFile::encodeName(mountPoint).constData(), MNT_DETACH);
 }

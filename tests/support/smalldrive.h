@@ -6,15 +6,17 @@
 /// A file system of a limited size, kept in memory. Only where this user may mount one.
 class SmallDrive {
 public:
-    explicit SmallDrive(int kilobytes, bool isReadOnly = false);
+    /// At `place`, or at a temporary directory.
+    explicit SmallDrive(int kilobytes, const QString &place = QString(), bool isReadOnly = false);
     ~SmallDrive();
     SmallDrive(const SmallDrive &) = delete;
     SmallDrive &operator=(const SmallDrive &) = delete;
 
     bool isMounted() const { return mounted; }
-    QString path() const { return directory.path(); }
+    QString path() const { return mountPoint; }
 
 private:
     QTemporaryDir directory;
+    QString mountPoint;
     bool mounted;
 };

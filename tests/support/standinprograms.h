@@ -15,6 +15,8 @@ public:
     /// `script` is what stands behind the first line. "$0.log" is read by log().
     void put(const QString &program, const QByteArray &script);
     QByteArray log(const QString &program) const;
+    /// Of a file beside the programs.
+    QString path(const QString &name) const { return directory.filePath(name); }
     /// No program is found any more.
     void hideAll();
 

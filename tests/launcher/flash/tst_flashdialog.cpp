@@ -45,6 +45,9 @@ private slots:
     void lateEndOfACopyDoesNotTurnTheAnswerRound();
     void driveThatComesWhileAnAnswerIsOnItsWayIsAskedAbout_data();
     void driveThatComesWhileAnAnswerIsOnItsWayIsAskedAbout();
+    void answerCountsForTheDriveThatWasAskedAbout_data();
+    void answerCountsForTheDriveThatWasAskedAbout();
+    void windowMayGoWhileItIsAsked();
     void warningIsMadeOnceAndShownWithoutTheDialog();
     void unreadWarningStaysInFrontOfTheQuestion();
     void nothingIsClipped_data();
@@ -258,6 +261,31 @@ void FlashDialogTest::driveThatComesWhileAnAnswerIsOnItsWayIsAskedAbout() {
     QCoreApplication::processEvents();
     QCoreApplication::processEvents();
     QCOMPARE(wasAsked, isAsked);
+}
+
+void FlashDialogTest::answerCountsForTheDriveThatWasAskedAbout_data() {
+    QTest::addColumn<QString>("atTheEnd");
+    QTest::addColumn<QString>("save");
+    QTest::newRow("same") << u"/media/sda1"_s << u"true"_s;
+    QTest::newRow("pulled") << QString() << u"false"_s;
+    QTest::newRow("another") << u"/media/sdb1"_s << u"false"_s;
+}
+
+void FlashDialogTest::answerCountsForTheDriveThatWasAskedAbout() {
+    QFETCH(QString, atTheEnd);
+    config.set(u"flash/dir"_s, u"/media/sda1"_s);
+    showWhile([&] {
+        button(u"Yes"_s)->click();
+        dialog->closeGracefully();
+        config.set(u"flash/dir"_s, atTheEnd);
+    });
+    QTEST(save(), "save");
+}
+
+void FlashDialogTest::windowMayGoWhileItIsAsked() {
+    config.set(u"flash/save"_s, true);
+    showWhile([&] { window.reset(); });
+    QCOMPARE(save(), u"false"_s);
 }
 
 void FlashDialogTest::warningIsMadeOnceAndShownWithoutTheDialog() {

@@ -33,7 +33,10 @@ private slots:
 
     void yesCopiesTheReports();
     void emptyFolderNameCopiesTheHome();
+    void oddFolderNamesAreCopied_data();
+    void oddFolderNamesAreCopied();
     void noCopiesNothing();
+    void driveThatFailsBeforeItIsSaidToBePulledIsTold();
     void driveRemovedWhileItIsAskedAboutClosesTheQuestionSilently();
     void driveRemovedWithoutAQuestionIsSilent();
     void pulledDriveEndsTheCopyAndIsTold();
@@ -112,6 +115,27 @@ void FlashManagerTest::emptyFolderNameCopiesTheHome() {
     QCOMPARE(copied["reports/traces/2"], "two");
 }
 
+void FlashManagerTest::oddFolderNamesAreCopied_data() {
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<QByteArray>("copied");
+    QTest::newRow("below another") << u"reports/traces"_s << QByteArray("traces/2");
+    QTest::newRow("slash at the end") << u"reports/"_s << QByteArray("traces/2");
+    QTest::newRow("absolute: below the home all the same") << u"/reports"_s << QByteArray("reports/traces/2");
+    QTest::newRow("dots") << u"../home/reports"_s << QByteArray("reports/traces/2");
+    QTest::newRow("dots at the end") << u"reports/.."_s << QByteArray("home/reports/traces/2");
+    QTest::newRow("not there") << u"nothing"_s << QByteArray();
+}
+
+void FlashManagerTest::oddFolderNamesAreCopied() {
+    QFETCH(QString, folder);
+    QFETCH(QByteArray, copied);
+    config.set(u"paths/main"_s, folder);
+    const FilesBelow before = readFiles(QDir::homePath());
+    insertAnd(u"sda1"_s, [this] { press(u"Yes"_s); });
+    QCOMPARE(readFiles(media(u"sda1"_s)).value(copied), copied.isEmpty() ? QByteArray() : QByteArray("two"));
+    QCOMPARE(readFiles(QDir::homePath()), before);
+}
+
 void FlashManagerTest::noCopiesNothing() {
     insertAnd(u"sda1"_s, [this] { press(u"No"_s); });
     QCOMPARE(save(), u"false"_s);
@@ -143,6 +167,17 @@ void FlashManagerTest::pulledDriveEndsTheCopyAndIsTold() {
     QCOMPARE(warning(), u"Error: \nUSB mass-storage device is plugged out"_s);
     QVERIFY(!readFiles(media(u"sda1"_s)).contains("reports/long"));
     QVERIFY(!dialog()->isVisible());
+}
+
+void FlashManagerTest::driveThatFailsBeforeItIsSaidToBePulledIsTold() {
+    programs->put(u"rsync"_s, "echo 'rsync: Input/output error' >&2; touch $0.log; exit 11");
+    insertAnd(u"sda1"_s, [this] {
+        press(u"Yes"_s);
+        QTRY_VERIFY(QFile::exists(programs->path(u"rsync.log"_s)));
+        spy()->removeFlash(u"sda1"_s);
+    });
+    QCOMPARE(warning(), u"Error: \nUSB mass-storage device is plugged out"_s);
+    QCOMPARE(save(), u"false"_s);
 }
 
 void FlashManagerTest::exportAfterAPulledDriveWorks() {

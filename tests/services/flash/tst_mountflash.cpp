@@ -12,6 +12,7 @@ private slots:
     void badCallsAreRefused_data();
     void badCallsAreRefused();
     void badOwnersAreRefused();
+    void otherMountsBesideTheDriveAreLeftAlone();
 };
 
 void MountFlashTest::badCallsAreRefused_data() {
@@ -55,6 +56,19 @@ void MountFlashTest::badOwnersAreRefused() {
     QVERIFY(helper.waitForFinished());
     QCOMPARE(helper.readAllStandardError(), "zr-mount-flash: SUDO_UID and SUDO_GID are no numbers\n"_ba);
     QCOMPARE(helper.exitCode(), 1);
+}
+
+void MountFlashTest::otherMountsBesideTheDriveAreLeftAlone() {
+    // Mounts of its own: nothing that happens there is seen by the machine.
+    const QString line =
+        u"mount -t tmpfs media /media && mkdir /media/data1 && mount -t tmpfs data /media/data1 || exit 77\n"
+        "%1 unmount data1; echo $?; mountpoint -q /media/data1 && echo mounted"_s.arg(QStringLiteral(HELPER));
+    QProcess shell;
+    shell.start(u"unshare"_s, {u"--mount"_s, u"sh"_s, u"-c"_s, line});
+    QVERIFY(shell.waitForFinished());
+    if (shell.exitCode() == 77 || shell.readAllStandardError().startsWith("unshare:"))
+        QSKIP("This user may not mount anything.");
+    QCOMPARE(shell.readAllStandardOutput(), "1\nmounted\n");
 }
 
 QTEST_GUILESS_MAIN(MountFlashTest)

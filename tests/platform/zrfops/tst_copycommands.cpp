@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "rsyncarguments.h"
+#include "copycommands.h"
 
 #include <QDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
-class RsyncArgumentsTest : public QObject {
+class CopyCommandsTest : public QObject {
     Q_OBJECT
 
 private slots:
@@ -16,7 +16,7 @@ private slots:
     void ownersModesAndLinksStayBehind();
 };
 
-void RsyncArgumentsTest::sourceBecomesADirectoryOrGivesItsContents_data() {
+void CopyCommandsTest::sourceBecomesADirectoryOrGivesItsContents_data() {
     QTest::addColumn<QString>("path");
     QTest::addColumn<QString>("word");
     QTest::newRow("directory") << u"/home/zr/reports"_s << u"/home/zr/./reports/"_s;
@@ -31,19 +31,19 @@ void RsyncArgumentsTest::sourceBecomesADirectoryOrGivesItsContents_data() {
     QTest::newRow("relative") << u"reports"_s << QDir::currentPath() + "/./reports/"_L1;
 }
 
-void RsyncArgumentsTest::sourceBecomesADirectoryOrGivesItsContents() {
+void CopyCommandsTest::sourceBecomesADirectoryOrGivesItsContents() {
     QFETCH(QString, path);
-    QTEST(RsyncArguments::source(path), "word");
+    QTEST(CopyCommands::source(path), "word");
 }
 
-void RsyncArgumentsTest::pathsStandBehindTheOptions() {
-    const QStringList words = RsyncArguments::copying({u"/a/b"_s, u"/c/"_s}, u"/media/sda1"_s);
+void CopyCommandsTest::pathsStandBehindTheOptions() {
+    const QStringList words = CopyCommands::copy({u"/a/b"_s, u"/c/"_s}, u"/media/sda1"_s).arguments;
     QCOMPARE(words.mid(words.indexOf(u"--"_s)),
              QStringList({u"--"_s, u"/a/./b/"_s, u"/c/./"_s, u"/media/sda1/"_s}));
 }
 
-void RsyncArgumentsTest::ownersModesAndLinksStayBehind() {
-    const QStringList words = RsyncArguments::copying({u"/a"_s}, u"/b"_s);
+void CopyCommandsTest::ownersModesAndLinksStayBehind() {
+    const QStringList words = CopyCommands::copy({u"/a"_s}, u"/b"_s).arguments;
     for (const QString &word : words)
         QVERIFY2(word == u"--"_s || word.startsWith(u'/') || word.startsWith("--"_L1), qPrintable(word));
     for (const auto &unwanted : {"--archive"_L1, "--owner"_L1, "--group"_L1, "--perms"_L1, "--links"_L1,
@@ -51,5 +51,5 @@ void RsyncArgumentsTest::ownersModesAndLinksStayBehind() {
         QVERIFY(!words.contains(unwanted));
 }
 
-QTEST_GUILESS_MAIN(RsyncArgumentsTest)
-#include "tst_rsyncarguments.moc"
+QTEST_GUILESS_MAIN(CopyCommandsTest)
+#include "tst_copycommands.moc"
