@@ -14,11 +14,6 @@
 namespace {
 
 constexpr int cannotStart = 127;
-constexpr int killedBySignal = 128;
-
-bool isStop(int signal) {
-    return signal == SIGTERM || signal == SIGINT || signal == SIGHUP || signal == SIGQUIT;
-}
 
 /// SIGABRT and SIGSEGV sent from outside ask a launcher that hangs for its trace. A fault of our own is not held
 /// back by this.
@@ -52,6 +47,17 @@ void writeToErrorStream(QByteArrayView bytes) {
 void LauncherRun::holdSignals() {
     const sigset_t set = passedOnSignals();
     ::sigprocmask(SIG_BLOCK, &set, nullptr);
+}
+
+std::optional<int> LauncherRun::signalWithin(std::chrono::seconds time) {
+    const sigset_t set = passedOnSignals();
+    const timespec limit{time.count(), 0};
+    const int signal = ::sigtimedwait(&set, nullptr, &limit);
+    return signal > 0 ? std::optional(signal) : std::nullopt;
+}
+
+bool LauncherRun::isStop(int signal) {
+    return signal == SIGTERM || signal == SIGINT || signal == SIGHUP || signal == SIGQUIT;
 }
 
 LauncherRun::LauncherRun(const QProcessEnvironment &inherited)

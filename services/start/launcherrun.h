@@ -6,7 +6,13 @@
 #include <QObject>
 #include <QProcess>
 
+#include <chrono>
+#include <optional>
+
 class QSocketNotifier;
+
+/// Added to a signal's number where a status tells of the signal that ended something.
+constexpr int killedBySignal = 128;
 
 /// One run of the launcher as a child process.
 ///
@@ -18,6 +24,11 @@ class LauncherRun : public QObject {
 public:
     /// Keeps the signals that are passed on for `LauncherRun`. To be called before any thread is started.
     static void holdSignals();
+
+    /// Waits so long, or until one of these signals comes: its number. It is consumed.
+    static std::optional<int> signalWithin(std::chrono::seconds time);
+    /// Whether the signal asks to end, rather than for a trace.
+    static bool isStop(int signal);
 
     explicit LauncherRun(const QProcessEnvironment &environment);
     ~LauncherRun() override;

@@ -3,6 +3,7 @@
 
 #include "launcherrun.h"
 #include "leftoutnotes.h"
+#include "restartpause.h"
 
 #include <configfile.h>
 #include <zrconfig.h>
@@ -17,6 +18,7 @@
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace {
 
@@ -41,22 +43,42 @@ void tellLeftOut(const LeftOutPlugin &plugin) {
 
 } // namespace
 
-LauncherStart::LauncherStart(const QString &program, const QStringList &words, const QString &directory)
-    : launcher(program), arguments(words), runDirectory(directory) {}
+LauncherStart::LauncherStart(const QString &program, const QStringList &words, const QString &directory,
+                             std::chrono::seconds pauseLimit)
+    : launcher(program), arguments(words), runDirectory(directory), longestPause(pauseLimit) {}
 
 int LauncherStart::run() {
     // As it was: the launcher has to find its installation by itself.
-    LauncherRun launcherRun(QProcessEnvironment::systemEnvironment());
+    const QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     shippedPlugins = registerInstallationOf(launcher);
-    // Damage is told, and out of the way, before anything is read.
-    setDamagedStoreAside(userStoreFile(u"zr-launcher"_s));
     if (!runDirectory.isEmpty())
         state = readState(stateFile());
-    state.crashes = withinLastMinute(state.crashes, sinceMachineStart());
+    if (const std::optional<int> signal = waitAfterFailures())
+        return LauncherRun::isStop(*signal) ? 0 : killedBySignal + *signal;
+    // Damage is told, and out of the way, before anything is read.
+    setDamagedStoreAside(userStoreFile(u"zr-launcher"_s));
+    LauncherRun launcherRun(environment);
+    return runAndRemember(launcherRun);
+}
 
+std::optional<int> LauncherStart::waitAfterFailures() const {
+    const std::chrono::seconds pause = restartPause(state.failedRuns, longestPause);
+    if (pause <= 0s)
+        return std::nullopt;
+    std::fprintf(stderr, "The launcher failed %lld times in a row; it is started in %lld s.\n",
+                 static_cast<long long>(state.failedRuns), static_cast<long long>(pause.count()));
+    return LauncherRun::signalWithin(pause);
+}
+
+int LauncherStart::runAndRemember(LauncherRun &launcherRun) {
+    const std::chrono::milliseconds beginning = sinceMachineStart();
     const int status = runWithoutLeftOut(launcherRun);
-    if (status != 0 && !launcherRun.wasStopped() && !runDirectory.isEmpty())
-        remember(launcherRun.trace());
+    const bool failed = status != 0 && !launcherRun.wasStopped();
+    // A plug-in that is left out takes the reason of the failures along.
+    if (!failed || rememberCrash(launcherRun.trace()))
+        rememberFailedRuns(0);
+    else
+        rememberFailedRuns(failedRunsAfterFailure(state.failedRuns, sinceMachineStart() - beginning));
     return status;
 }
 
@@ -90,20 +112,29 @@ QString LauncherStart::pathOfNotices(const QString &pluginDirectory) const {
     return path == "."_L1 ? QString() : path + u'/';
 }
 
-void LauncherStart::remember(const TraceReader &trace) {
+bool LauncherStart::rememberCrash(const TraceReader &trace) {
     QStringList modules = trace.modules();
     std::transform(modules.begin(), modules.end(), modules.begin(), resolvedLibrary);
     const QSettings store(u"talvenor"_s, u"zr-launcher"_s);
     const std::optional<QString> culprit = topmostListed(modules, listedPlugins(store));
-    if (!culprit)
-        return;
+    if (!culprit || runDirectory.isEmpty())
+        return false;
     const std::chrono::milliseconds now = sinceMachineStart();
     state.crashes = withinLastMinute(state.crashes, now);
     state.crashes.append({now, *culprit, QString::fromLocal8Bit(trace.lines().join('\n'))});
-    if (const std::optional<Crash> last = crashToLeaveOut(state.crashes)) {
+    const std::optional<Crash> last = crashToLeaveOut(state.crashes);
+    if (last) {
         state.leftOut.append({last->library, state.crashes.size(), last->trace});
         state.crashes.clear();
         tellLeftOut(state.leftOut.last());
     }
+    writeState(stateFile(), state);
+    return last.has_value();
+}
+
+void LauncherStart::rememberFailedRuns(qint64 count) {
+    if (runDirectory.isEmpty() || count == state.failedRuns)
+        return;
+    state.failedRuns = count;
     writeState(stateFile(), state);
 }

@@ -65,15 +65,16 @@ bool appendAll(QList<Value> &values, const QJsonValue &array, Parse parse) {
 } // namespace
 
 QByteArray toBytes(const StartState &state) {
-    return QJsonDocument(
-               QJsonObject{{u"crashes"_s, arrayOf(state.crashes)}, {u"leftOut"_s, arrayOf(state.leftOut)}})
+    return QJsonDocument(QJsonObject{{u"crashes"_s, arrayOf(state.crashes)},
+                                     {u"leftOut"_s, arrayOf(state.leftOut)},
+                                     {u"failedRuns"_s, state.failedRuns}})
         .toJson();
 }
 
 std::optional<StartState> stateFrom(const QByteArray &bytes) {
     const QJsonObject object = QJsonDocument::fromJson(bytes).object();
-    StartState state;
-    if (!appendAll(state.crashes, object[u"crashes"_s], crashFrom) ||
+    StartState state{{}, {}, object[u"failedRuns"_s].toInteger(-1)};
+    if (state.failedRuns < 0 || !appendAll(state.crashes, object[u"crashes"_s], crashFrom) ||
         !appendAll(state.leftOut, object[u"leftOut"_s], leftOutFrom))
         return std::nullopt;
     return state;
@@ -87,7 +88,7 @@ StartState readState(const QString &name) {
     if (file.open(QIODevice::ReadOnly))
         state = stateFrom(file.read(largestStateBytes));
     if (!state)
-        std::fprintf(stderr, "What was remembered of crashes (%s) is damaged; it is ignored.\n",
+        std::fprintf(stderr, "What was remembered of failed runs (%s) is damaged; it is ignored.\n",
                      qPrintable(name));
     return state.value_or(StartState());
 }
@@ -96,6 +97,6 @@ void writeState(const QString &name, const StartState &state) {
     QSaveFile file(name);
     const QByteArray bytes = toBytes(state);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        std::fprintf(stderr, "A crash cannot be remembered in %s: %s\n", qPrintable(name),
+        std::fprintf(stderr, "A failed run cannot be remembered in %s: %s\n", qPrintable(name),
                      qPrintable(file.errorString()));
 }

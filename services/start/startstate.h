@@ -19,6 +19,8 @@ struct LeftOutPlugin {
 struct StartState {
     QList<Crash> crashes;
     QList<LeftOutPlugin> leftOut;
+    /// In a row, directly before the next start.
+    qint64 failedRuns = 0;
 
     bool operator==(const StartState &) const = default;
 };

@@ -1,5 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "startstate.h"
+
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSettings>
@@ -12,6 +15,7 @@
 #include <sys/resource.h>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
 
 /// The program as the unit runs it, with a script in the launcher's place.
 class StartTest : public QObject {
@@ -35,6 +39,12 @@ private slots:
     void settingsOfSuchARunStay();
     void damagedMemoryIsIgnored();
     void withoutRunDirectoryTheLauncherStarts();
+    void startAfterFailuresWaitsLonger();
+    void failedRunsInARowAreCounted();
+    void leavingAPluginOutStartsANewRow();
+    void stopEndsThePauseAtOnce();
+    void wrongCommandLineIsRefused_data();
+    void wrongCommandLineIsRefused();
 
 private:
     struct Outcome {
@@ -48,12 +58,17 @@ private:
     QString library(const QString &plugin) const { return directory->filePath("lib"_L1 + plugin + ".so"_L1); }
     static QString listIn(const Outcome &outcome);
 
+    void failRunsBefore(qint64 count) const;
+
     std::unique_ptr<QTemporaryDir> directory;
+    /// What the command line says of the pause after failed runs.
+    QStringList pause;
     QProcessEnvironment environment;
 };
 
 void StartTest::init() {
     directory = std::make_unique<QTemporaryDir>();
+    pause = {u"--longest-pause"_s, u"0"_s};
     environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_s, directory->filePath(u"config"_s));
     environment.insert(u"XDG_RUNTIME_DIR"_s, directory->filePath(u"run"_s));
@@ -68,7 +83,7 @@ void StartTest::init() {
 std::unique_ptr<QProcess> StartTest::begin(const QStringList &words) const {
     auto process = std::make_unique<QProcess>();
     process->setProcessEnvironment(environment);
-    process->start(QStringLiteral(START), QStringList{QStringLiteral(LAUNCHER)} + words);
+    process->start(QStringLiteral(START), pause + QStringList{QStringLiteral(LAUNCHER)} + words);
     return process;
 }
 
@@ -237,7 +252,81 @@ void StartTest::withoutRunDirectoryTheLauncherStarts() {
     environment.remove(u"XDG_RUNTIME_DIR"_s);
     const Outcome outcome = run({u"exit"_s, u"4"_s});
     QCOMPARE(outcome.status, 4);
-    QVERIFY(outcome.errors.contains("crashes are not remembered"));
+    QVERIFY(outcome.errors.contains("failures are not remembered"));
+}
+
+void StartTest::failRunsBefore(qint64 count) const {
+    QVERIFY(QDir().mkpath(directory->filePath(u"run/zr-launcher"_s)));
+    writeState(directory->filePath(u"run/zr-launcher/crashes.json"_s), {{}, {}, count});
+}
+
+void StartTest::startAfterFailuresWaitsLonger() {
+    pause.clear();
+    QCOMPARE(run({u"exit"_s, u"1"_s}).errors, QByteArray());
+    QElapsedTimer clock;
+    clock.start();
+    QCOMPARE(run({u"exit"_s, u"1"_s}).errors,
+             QByteArray("The launcher failed 1 times in a row; it is started in 1 s.\n"));
+    QVERIFY(clock.elapsed() >= 1000);
+    clock.start();
+    QCOMPARE(run({u"exit"_s, u"0"_s}).errors,
+             QByteArray("The launcher failed 2 times in a row; it is started in 2 s.\n"));
+    QVERIFY(clock.elapsed() >= 2000);
+    // It ended in order.
+    QCOMPARE(run({u"exit"_s, u"0"_s}).errors, QByteArray());
+}
+
+void StartTest::failedRunsInARowAreCounted() {
+    const QString file = directory->filePath(u"run/zr-launcher/crashes.json"_s);
+    for (qint64 number = 1; number <= 4; ++number) {
+        run({u"kill"_s, u"KILL"_s});
+        QCOMPARE(readState(file).failedRuns, number);
+    }
+    const std::unique_ptr<QProcess> process = begin({u"wait"_s});
+    process->setReadChannel(QProcess::StandardError);
+    QTRY_VERIFY(process->canReadLine());
+    process->terminate();
+    QVERIFY(process->waitForFinished());
+    QCOMPARE(readState(file).failedRuns, 0);
+}
+
+void StartTest::leavingAPluginOutStartsANewRow() {
+    crash(u"clock"_s, 2);
+    QCOMPARE(readState(directory->filePath(u"run/zr-launcher/crashes.json"_s)).failedRuns, 2);
+    crash(u"clock"_s, 1);
+    QCOMPARE(readState(directory->filePath(u"run/zr-launcher/crashes.json"_s)).failedRuns, 0);
+}
+
+void StartTest::stopEndsThePauseAtOnce() {
+    pause.clear();
+    failRunsBefore(20);
+    const std::unique_ptr<QProcess> process = begin({u"say"_s, u"started"_s});
+    process->setReadChannel(QProcess::StandardError);
+    QTRY_VERIFY(process->canReadLine());
+    QCOMPARE(process->readLine(), "The launcher failed 20 times in a row; it is started in 60 s.\n");
+    process->terminate();
+    QVERIFY(process->waitForFinished(20000));
+    QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process->exitCode(), 0);
+    QCOMPARE(process->readAllStandardError(), QByteArray());
+}
+
+void StartTest::wrongCommandLineIsRefused_data() {
+    QTest::addColumn<QStringList>("words");
+    QTest::newRow("nothing") << QStringList();
+    QTest::newRow("no launcher") << QStringList{u"--longest-pause"_s, u"5"_s};
+    QTest::newRow("no number") << QStringList{u"--longest-pause"_s, u"5s"_s, u"true"_s};
+    QTest::newRow("less than nothing") << QStringList{u"--longest-pause"_s, u"-5"_s, u"true"_s};
+}
+
+void StartTest::wrongCommandLineIsRefused() {
+    QFETCH(const QStringList, words);
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(START), words);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitCode(), 2);
+    QVERIFY(process.readAllStandardError().startsWith("usage: zr-start"));
 }
 
 QTEST_GUILESS_MAIN(StartTest)

@@ -23,7 +23,7 @@ private slots:
 
 void StartStateTest::stateIsReadAsItWasWritten() {
     const QTemporaryDir directory;
-    const StartState state{{{5s, u"/p/a.so"_s, u"one\ntwo"_s}}, {{u"/p/\"б\".so"_s, 3, u"trace"_s}}};
+    const StartState state{{{5s, u"/p/a.so"_s, u"one\ntwo"_s}}, {{u"/p/\"б\".so"_s, 3, u"trace"_s}}, 4};
     writeState(directory.filePath(u"state"_s), state);
     QCOMPARE(readState(directory.filePath(u"state"_s)), state);
 }
@@ -38,13 +38,16 @@ void StartStateTest::damageIsToldAndIgnored_data() {
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QByteArray();
     QTest::newRow("not of this form") << QByteArray("[crashes]");
-    QTest::newRow("cut short") << toBytes({{{5s, u"a"_s, {}}}, {}}).chopped(5);
-    QTest::newRow("no list") << QByteArray(R"({"crashes": 3, "leftOut": []})");
-    QTest::newRow("no library") << QByteArray(R"({"crashes": [{"moment": 3, "trace": ""}], "leftOut": []})");
+    QTest::newRow("cut short") << toBytes({{{5s, u"a"_s, {}}}, {}, 0}).chopped(5);
+    QTest::newRow("no list") << QByteArray(R"({"crashes": 3, "leftOut": [], "failedRuns": 0})");
+    QTest::newRow("no library") << QByteArray(
+        R"({"crashes": [{"moment": 3, "trace": ""}], "leftOut": [], "failedRuns": 0})");
     QTest::newRow("no number") << QByteArray(
-        R"({"crashes": [{"moment": "x", "library": "a", "trace": ""}], "leftOut": []})");
+        R"({"crashes": [{"moment": "x", "library": "a", "trace": ""}], "leftOut": [], "failedRuns": 0})");
     QTest::newRow("left out without a trace")
-        << QByteArray(R"({"crashes": [], "leftOut": [{"library": "a", "crashes": 3}]})");
+        << QByteArray(R"({"crashes": [], "leftOut": [{"library": "a", "crashes": 3}], "failedRuns": 0})");
+    QTest::newRow("no failed runs") << QByteArray(R"({"crashes": [], "leftOut": []})");
+    QTest::newRow("fewer than none") << QByteArray(R"({"crashes": [], "leftOut": [], "failedRuns": -1})");
 }
 
 void StartStateTest::damageIsToldAndIgnored() {
@@ -62,7 +65,7 @@ void StartStateTest::damageIsToldAndIgnored() {
 void StartStateTest::failureIsTold() {
     ErrorStream errors;
     writeState(u"/proc/not/there"_s, {});
-    QVERIFY(errors.take().startsWith("A crash cannot be remembered in /proc/not/there: "));
+    QVERIFY(errors.take().startsWith("A failed run cannot be remembered in /proc/not/there: "));
 }
 
 QTEST_GUILESS_MAIN(StartStateTest)
