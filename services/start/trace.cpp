@@ -16,9 +16,12 @@ constexpr qsizetype mostLines = 64;
 std::optional<TraceFrame> frameIn(const QByteArray &line) {
     static const QRegularExpression pattern(
         uR"(^\[bt\]: \((\d{1,6})\) ([^(]+)\([^)^+]+\+[^)]+\)\s\[[^]]+\])"_s);
-    if (!line.startsWith("[bt]: ("))
+    static const QRegularExpression barePattern(uR"(^()(/[^(]+)\([^)]*\)\[0x[0-9a-f]+\]$)"_s);
+    const bool isNumbered = line.startsWith("[bt]: (");
+    if (!isNumbered && !line.startsWith('/'))
         return std::nullopt;
-    const QRegularExpressionMatch match = pattern.match(QString::fromLocal8Bit(line));
+    const QRegularExpressionMatch match =
+        (isNumbered ? pattern : barePattern).match(QString::fromLocal8Bit(line));
     if (!match.hasMatch())
         return std::nullopt;
     return TraceFrame{match.captured(1).toInt(), match.captured(2)};
@@ -46,8 +49,9 @@ void TraceReader::endLine() {
         beginTrace();
         traceLines.append(currentLine);
     } else if (const std::optional<TraceFrame> frame = frameIn(currentLine)) {
-        // The signature is a debug line, which may be switched off; then the numbers start anew.
-        if (frame->number <= lastNumber)
+        // The signature is a debug line, which may be switched off; then the numbers start anew. Bare frames have
+        // none.
+        if (frame->number != 0 && frame->number <= lastNumber)
             beginTrace();
         lastNumber = frame->number;
         if (traceLines.size() < mostLines) {

@@ -8,8 +8,10 @@
 #include <optional>
 
 /// One frame of a trace as the launcher's crash handler writes it:
-/// "[bt]: (NUMBER) MODULE(SYMBOL+OFFSET) [ADDRESS] NAME".
+/// "[bt]: (NUMBER) MODULE(SYMBOL+OFFSET) [ADDRESS] NAME", or bare, when it had to give up:
+/// "MODULE(SYMBOL+OFFSET)[ADDRESS]", where the symbol may be missing.
 struct TraceFrame {
+    /// 0 for a bare frame.
     int number = 0;
     QString module;
 

@@ -24,6 +24,7 @@ private slots:
     void lastTraceIsKept();
     void otherLinesDoNotDisturb();
     void traceWithoutSignatureBeginsWhereTheNumbersDo();
+    void bareFramesMakeATrace();
     void brokenUpLinesAreJoined();
     void endlessLineIsForgotten();
     void floodOfFramesIsBounded();
@@ -36,6 +37,10 @@ void TraceTest::frameIsRecognised_data() {
     QTest::newRow("blank in the path") << frame(3, "/opt/my plug-ins/a.so") << u"/opt/my plug-ins/a.so"_s;
     QTest::newRow("name that cannot be demangled")
         << QByteArray("[bt]: (1) a.so(main+0x2) [0x1] (null)") << u"a.so"_s;
+    QTest::newRow("bare") << QByteArray("/opt/a.so(_Z3fooi+0x1f)[0x7f00]") << u"/opt/a.so"_s;
+    QTest::newRow("bare, no symbol") << QByteArray("/opt/a.so(+0x1f)[0x7f00]") << u"/opt/a.so"_s;
+    QTest::newRow("bare, something behind it") << QByteArray("/opt/a.so(+0x1f)[0x7f00] is bad") << QString();
+    QTest::newRow("path and no more") << QByteArray("/opt/a.so") << QString();
     QTest::newRow("no symbol") << QByteArray("[bt]: (1) a.so(+0x2) [0x1]") << QString();
     QTest::newRow("no number") << QByteArray("[bt]: () a.so(main+0x2) [0x1] main") << QString();
     QTest::newRow("huge number") << QByteArray("[bt]: (99999999999) a.so(f+0x2) [0x1] f") << QString();
@@ -72,6 +77,14 @@ void TraceTest::traceWithoutSignatureBeginsWhereTheNumbersDo() {
     for (const char *const module : {"a.so", "b.so"})
         reader.read(frame(1, module) + '\n' + frame(2, "launcher") + '\n');
     QCOMPARE(reader.modules(), QStringList({u"b.so"_s, u"launcher"_s}));
+}
+
+void TraceTest::bareFramesMakeATrace() {
+    TraceReader reader;
+    for (const char *const module : {"/a.so", "/b.so"})
+        reader.read(signature + '\n' + module + "(+0x1f)[0x7f00]\n/bin/launcher(main+0x2)[0x1]\n");
+    QCOMPARE(reader.modules(), QStringList({u"/b.so"_s, u"/bin/launcher"_s}));
+    QCOMPARE(reader.lines().size(), 3);
 }
 
 void TraceTest::brokenUpLinesAreJoined() {
