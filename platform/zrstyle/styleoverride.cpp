@@ -54,6 +54,13 @@ void drawButtonBevel(const QStyleOptionButton &option, QPainter *painter) {
         drawFocusRing(option, painter);
 }
 
+/// What is wider than the button loses its end; centred, it would lose both.
+QString fittingText(const QStyleOptionButton &option, const QWidget *button) {
+    const int icon = option.icon.isNull() ? 0 : option.iconSize.width();
+    const int room = (button ? button->width() : option.rect.width()) - buttonPadding - icon;
+    return option.fontMetrics.elidedText(option.text, Qt::ElideRight, room, Qt::TextShowMnemonic);
+}
+
 void drawHeaderSection(const QStyleOption &option, QPainter *painter) {
     painter->fillRect(option.rect, option.palette.window());
     painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
@@ -102,6 +109,7 @@ void StyleOverride::drawControl(ControlElement element, const QStyleOption *opti
         drawButtonBevel(*button, painter);
     } else if (element == CE_PushButtonLabel && button) {
         QStyleOptionButton label = *button;
+        label.text = fittingText(label, widget);
         if (isPressedOrChecked(label))
             label.palette.setBrush(QPalette::ButtonText, label.palette.highlightedText());
         QProxyStyle::drawControl(element, &label, painter, widget);

@@ -23,6 +23,7 @@ private slots:
     void paletteFollowsTheProperty();
     void pressedButtonTurnsToTheAccent();
     void disabledButtonLooksDisabled();
+    void textWiderThanItsButtonLosesItsEnd();
     void focusIsARing();
     void scrollBarsFitAThumb();
     void scrollBarWithAHugeRangeKeepsItsHandle();
@@ -77,6 +78,25 @@ void StyleOverrideTest::disabledButtonLooksDisabled() {
     button.setEnabled(false);
     QCOMPARE(button.grab().toImage().pixelColor(20, 26),
              button.palette().color(QPalette::Disabled, QPalette::Button));
+}
+
+void StyleOverrideTest::textWiderThanItsButtonLosesItsEnd() {
+    QPushButton button(u"Settings "_s.repeated(10));
+    QPushButton empty;
+    for (QPushButton *const each : {&button, &empty})
+        each->resize(120, 52);
+    const QImage picture = button.grab().toImage();
+    const QImage blank = empty.grab().toImage();
+    QVERIFY(picture != blank);
+    const QRect leftEdge(0, 0, 6, 52);
+    const QRect rightEdge(114, 0, 6, 52);
+    QCOMPARE(picture.copy(leftEdge), blank.copy(leftEdge));
+    QCOMPARE(picture.copy(rightEdge), blank.copy(rightEdge));
+    const QString shown =
+        button.fontMetrics().elidedText(button.text(), Qt::ElideRight, 120 - 16, Qt::TextShowMnemonic);
+    QPushButton shortened(shown);
+    shortened.resize(120, 52);
+    QCOMPARE(picture, shortened.grab().toImage());
 }
 
 void StyleOverrideTest::focusIsARing() {
