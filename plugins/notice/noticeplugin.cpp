@@ -19,6 +19,7 @@ QWidget *NoticePlugin::iconWidget() {
     if (!icon) {
         const QIcon picture(u":/notice%1/notice.png"_s.arg(NOTICE_NUMBER));
         auto *const tile = own(new IconTile(picture, note.headline()));
+        tile->setObjectName(u"iconNotice"_s);
         connect(tile, &IconTile::clicked, this, &NoticePlugin::showWindow);
         icon = tile;
     }

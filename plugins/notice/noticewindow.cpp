@@ -55,6 +55,7 @@ NoticeWindow::NoticeWindow(const LeftOutNote &note, QWidget *parent)
     setWindowTitle(note.headline());
     saveButton->setFont(FontSizes::sized(font(), FontSizes::Text, QFont::Bold));
     saveButton->setMinimumSize(buttonWidth, touchHeight);
+    saveButton->setObjectName(u"buttonSave"_s);
     // Enter presses it too.
     saveButton->setAutoDefault(true);
 

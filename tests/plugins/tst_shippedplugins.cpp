@@ -7,8 +7,12 @@
 
 #include <QFile>
 #include <QPluginLoader>
+#include <QSet>
 #include <QSignalSpy>
 #include <QTest>
+
+#include <memory>
+#include <vector>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,6 +68,7 @@ private slots:
     void reportsIsOfTheOlderKind();
     void reportsBringsItsWindowUp();
     void reportsHasNoWindowBeforeItIsWanted();
+    void everyNoticeHasARootOfItsOwn();
 
 private:
     static void addPlugins(const QStringList &names);
@@ -76,7 +81,7 @@ void ShippedPluginsTest::addPlugins(const QStringList &names) {
 }
 
 void ShippedPluginsTest::currentKindLoads_data() {
-    addPlugins({u"system"_s, u"network"_s, u"refresh"_s});
+    addPlugins({u"system"_s, u"network"_s, u"refresh"_s, u"notice1"_s, u"notice8"_s});
 }
 
 void ShippedPluginsTest::currentKindLoads() {
@@ -88,7 +93,7 @@ void ShippedPluginsTest::currentKindLoads() {
 }
 
 void ShippedPluginsTest::iconBringsTheWindowUp_data() {
-    addPlugins({u"system"_s, u"network"_s});
+    addPlugins({u"system"_s, u"network"_s, u"notice1"_s, u"notice8"_s});
 }
 
 void ShippedPluginsTest::iconBringsTheWindowUp() {
@@ -103,7 +108,7 @@ void ShippedPluginsTest::iconBringsTheWindowUp() {
 }
 
 void ShippedPluginsTest::iconHasAPicture_data() {
-    addPlugins({u"system"_s, u"network"_s});
+    addPlugins({u"system"_s, u"network"_s, u"notice1"_s, u"notice8"_s});
 }
 
 void ShippedPluginsTest::iconHasAPicture() {
@@ -129,7 +134,7 @@ void ShippedPluginsTest::statusWidgetIsTheSameEachTime() {
 }
 
 void ShippedPluginsTest::widgetsGoWithTheirLibrary_data() {
-    addPlugins({u"system"_s, u"network"_s, u"refresh"_s});
+    addPlugins({u"system"_s, u"network"_s, u"refresh"_s, u"notice1"_s, u"notice8"_s});
 }
 
 void ShippedPluginsTest::widgetsGoWithTheirLibrary() {
@@ -209,6 +214,18 @@ void ShippedPluginsTest::reportsBringsItsWindowUp() {
 void ShippedPluginsTest::reportsHasNoWindowBeforeItIsWanted() {
     ShippedPlugin plugin(u"reports"_s);
     QVERIFY(!plugin.root<LauncherPlugin>()->pluginWindow());
+}
+
+void ShippedPluginsTest::everyNoticeHasARootOfItsOwn() {
+    std::vector<std::unique_ptr<ShippedPlugin>> plugins;
+    QSet<QWidget *> icons;
+    for (int number = 1; number <= NOTICE_COUNT; ++number) {
+        plugins.push_back(std::make_unique<ShippedPlugin>(u"notice%1"_s.arg(number)));
+        auto *const root = plugins.back()->root<GenericPlugin>();
+        QVERIFY2(root, qPrintable(plugins.back()->error()));
+        icons.insert(root->iconWidget());
+    }
+    QCOMPARE(icons.size(), NOTICE_COUNT);
 }
 
 QTEST_MAIN(ShippedPluginsTest)

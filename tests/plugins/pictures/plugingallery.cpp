@@ -8,6 +8,7 @@
 #include "factrow.h"
 #include "networkreader.h"
 #include "networkwindow.h"
+#include "noticewindow.h"
 #include "refreshwindow.h"
 #include "reportlistpage.h"
 #include "reportsdirectory.h"
@@ -23,6 +24,8 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPushButton>
@@ -166,6 +169,23 @@ void takeRefresh(const Gallery &gallery) {
     gallery.take(&window, u"refresh"_s);
 }
 
+void takeNotice(const Gallery &gallery) {
+    QStringList trace{u"void crit_err_hdlr(int, siginfo_t*, void*)"_s};
+    for (int number = 2; number <= 24; ++number)
+        trace.append(
+            u"[bt]: (%1) /opt/libclock.so(_ZN5Clock4tickEv+0x1f) [0x7f0011223344] Clock::tick()"_s.arg(
+                number));
+    const QJsonObject note{{u"plugin"_s, u"clock"_s},
+                           {u"library"_s, u"/opt/libclock.so"_s},
+                           {u"crashes"_s, 3},
+                           {u"trace"_s, trace.join(u'\n')}};
+    NoticeWindow window(LeftOutNote::from(QJsonDocument(note).toJson()));
+    gallery.show(&window);
+    gallery.take(&window, u"notice"_s);
+    window.findChild<QPushButton *>()->click();
+    gallery.take(&window, u"notice-saved"_s);
+}
+
 QSize sizeIn(const QString &text) {
     const QStringList sides = text.split(u'x');
     return sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : usualSize;
@@ -195,5 +215,6 @@ int main(int argc, char *argv[]) {
     takeNetwork(gallery, qEnvironmentVariable("ZR_SYSROOT") + u"/sys/class/net"_s);
     takeRefresh(gallery);
     takeReports(gallery);
+    takeNotice(gallery);
     return 0;
 }
