@@ -23,10 +23,7 @@ LauncherProcess::LauncherProcess()
       environment(QProcessEnvironment::systemEnvironment()) {}
 
 LauncherProcess::~LauncherProcess() {
-    if (process.state() == QProcess::NotRunning)
-        return;
-    process.terminate();
-    process.waitForFinished();
+    stop();
     // The bus drops the name a little later; the next launcher needs it.
     [[maybe_unused]] const bool gone = QTest::qWaitFor([] { return !isProbeThere(); });
 }
@@ -43,11 +40,22 @@ bool LauncherProcess::start(const QStringList &arguments) {
     return QTest::qWaitFor([this] { return isVisible(u"pageLauncher"_s); }, longestStartMs);
 }
 
+int LauncherProcess::stop() {
+    if (process.state() != QProcess::NotRunning)
+        process.terminate();
+    return waitForEnd();
+}
+
+int LauncherProcess::waitForEnd() {
+    if (process.state() != QProcess::NotRunning)
+        process.waitForFinished();
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
 int LauncherProcess::runToEnd(const QStringList &arguments) {
     process.setProcessEnvironment(environment);
     process.start(program, arguments);
-    process.waitForFinished();
-    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return waitForEnd();
 }
 
 void LauncherProcess::setScreenHeight(int pixels) {

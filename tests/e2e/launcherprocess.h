@@ -22,6 +22,11 @@ public:
     bool start(const QStringList &arguments = {});
     /// Starts and waits for the end; for command lines that do not lead to a run.
     int runToEnd(const QStringList &arguments);
+    /// Waits for the end of the process. Its exit status, -1 when a signal ended it.
+    int waitForEnd();
+    /// Asks it to end and waits for that.
+    int stop();
+    qint64 processId() const { return process.processId(); }
 
     /// Gives the launcher a framebuffer of that height.
     void setScreenHeight(int pixels);
@@ -30,11 +35,16 @@ public:
     QByteArray errors();
 
     bool press(const QString &nameOrText) { return ask<bool>("press", {nameOrText}); }
+    /// For a press that may end the launcher before it answers.
+    void pressWithoutAnswer(const QString &nameOrText) {
+        probe->call(QDBus::NoBlock, QStringLiteral("press"), nameOrText);
+    }
     QString caption() { return ask<QString>("caption"); }
     QString shownPage() { return ask<QString>("shownPage"); }
     QString backButtonText() { return ask<QString>("backButtonText"); }
     QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
     QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
+    QStringList pageTexts() { return ask<QStringList>("pageTexts"); }
     QStringList leds() { return ask<QStringList>("leds"); }
     void showShortcutWindow() { probe->call(QStringLiteral("showShortcutWindow")); }
     int shortcuts() { return ask<int>("shortcuts"); }

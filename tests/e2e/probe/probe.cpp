@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -76,6 +77,16 @@ QStringList Probe::selectorTexts() const {
 
 QStringList Probe::iconTexts() const {
     return textsOf<IconTile>();
+}
+
+QStringList Probe::pageTexts() const {
+    const QWidget *const page = LauncherWindow::instance()->getStackedWidget()->currentWidget();
+    QStringList texts;
+    for (const QLabel *const label : page->findChildren<QLabel *>())
+        texts.append(label->text());
+    for (const QPlainTextEdit *const view : page->findChildren<QPlainTextEdit *>())
+        texts.append(view->toPlainText());
+    return texts;
 }
 
 QStringList Probe::leds() const {

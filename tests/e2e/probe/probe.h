@@ -20,6 +20,8 @@ public slots:
     QString shownPage() const;
     QStringList selectorTexts() const;
     QStringList iconTexts() const;
+    /// Texts of the labels and text views on what the main stack shows.
+    QStringList pageTexts() const;
     /// Names of the lamps in the left column, each followed by a colon and its quality as a number.
     QStringList leds() const;
     /// Class of the pop-up that is open.

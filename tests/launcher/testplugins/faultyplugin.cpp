@@ -7,11 +7,22 @@
 #include <QThread>
 #include <QTimer>
 
+#include <cstdlib>
 #include <memory>
 
 namespace {
 
-enum FaultPlace { InConstructor, InIconWidget, InThread, OnClick, InLauncher };
+enum FaultPlace {
+    InConstructor,
+    InIconWidget,
+    InThread,
+    OnClick,
+    InLauncher,
+    OnPress,
+    Overflow,
+    Abort,
+    InTrace
+};
 
 constexpr FaultPlace place = FAULT_PLACE;
 
@@ -21,6 +32,17 @@ void faultInThread() {
     thread->wait();
 }
 
+void faultInTheTrace() {
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) { writeNowhere(); });
+    writeNowhere();
+}
+
+/// Goes deeper than any stack.
+int overflow(int depth) {
+    volatile char room[4096] = {};
+    return depth < 0 ? room[0] : overflow(depth + 1) + room[0];
+}
+
 } // namespace
 
 FaultyPlugin::FaultyPlugin() : icon(own(new QPushButton(QStringLiteral("faulty")))) {
@@ -28,19 +50,26 @@ FaultyPlugin::FaultyPlugin() : icon(own(new QPushButton(QStringLiteral("faulty")
         writeNowhere();
     if (place == InThread)
         faultInThread();
+    if (place == Overflow)
+        overflow(0);
+    if (place == Abort)
+        std::abort();
     connect(icon, &QPushButton::clicked, this, &FaultyPlugin::useIcon);
     // As soon as the launcher is up.
-    QTimer::singleShot(0, icon, &QPushButton::click);
+    if (place != OnPress)
+        QTimer::singleShot(0, icon, &QPushButton::click);
 }
 
 QWidget *FaultyPlugin::iconWidget() {
     if (place == InIconWidget)
         writeNowhere();
+    if (place == InTrace)
+        faultInTheTrace();
     return icon;
 }
 
 void FaultyPlugin::useIcon() {
-    if (place == OnClick)
+    if (place == OnClick || place == OnPress)
         writeNowhere();
     if (place == InLauncher)
         emit setCurrentWidget(reinterpret_cast<QWidget *>(addressOfNothing));
