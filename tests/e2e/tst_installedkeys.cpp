@@ -23,6 +23,8 @@ private slots:
     void brightnessKeyWritesTheFile();
     void informationKeyTogglesThePanel();
     void homeKeyLeadsHomeFromThreeLevels();
+    void settingsAreChosenByKeys();
+    void homeKeyClosesTheChoiceOfSettings();
     void powerKeyAsksAndObeys();
     void batteryIsShownAndExplained();
     void soundPanelOpensAsOftenAsItIsWanted();
@@ -34,6 +36,8 @@ private:
     }
     static QString root() { return qEnvironmentVariable("ZR_SYSROOT"); }
     static QString sudoLog() { return qEnvironmentVariable("HOME") + "/sudo.log"_L1; }
+    void start();
+    void openChoiceOfSettings();
     void press(const QString &key) const { QVERIFY(display.key({key})); }
 
     TestConfig config;
@@ -57,6 +61,10 @@ void InstalledKeysTest::init() {
     config.addPlugin(u"system"_s, {.file = plugins + "libsystem.so"_L1, .settings = u"refresh"_s});
     config.addPlugin(u"sound"_s, {.row = 2, .file = plugins + "libsound.so"_L1});
     config.addPlugin(u"refresh"_s, {.file = plugins + "librefresh.so"_L1});
+    start();
+}
+
+void InstalledKeysTest::start() {
     launcher = std::make_unique<LauncherProcess>();
     launcher->environment.insert(u"DISPLAY"_s, display.display());
     QVERIFY2(launcher->start({u"-platform"_s, u"xcb"_s}), launcher->errors());
@@ -98,6 +106,39 @@ void InstalledKeysTest::homeKeyLeadsHomeFromThreeLevels() {
     QTRY_COMPARE(launcher->shownPopup(), u"StatusPanel"_s);
     press(u"Home"_s);
     QTRY_COMPARE(launcher->shownPage(), u"pageLauncher"_s);
+}
+
+void InstalledKeysTest::openChoiceOfSettings() {
+    launcher.reset();
+    config.set(u"system/settings"_s, u"refresh network"_s);
+    config.setCollection(u"zr"_s, u"probe system network refresh"_s);
+    config.addPlugin(u"network"_s, {.row = 2,
+                                    .file = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR
+                                                                    "/zr-launcher/plugins/libnetwork.so")});
+    start();
+    QVERIFY(launcher->press(u"Система"_s));
+    QVERIFY(launcher->press(u"labelSettings"_s));
+    QTRY_COMPARE(launcher->shownPopup(), u"VBoxPopup"_s);
+}
+
+void InstalledKeysTest::settingsAreChosenByKeys() {
+    openChoiceOfSettings();
+    press(u"Escape"_s);
+    QTRY_COMPARE(launcher->shownPopup(), QString());
+    QCOMPARE(launcher->shownPage(), u"SystemWindow"_s);
+    QVERIFY(launcher->press(u"labelSettings"_s));
+    QTRY_COMPARE(launcher->shownPopup(), u"VBoxPopup"_s);
+    press(u"Down"_s);
+    press(u"Return"_s);
+    QTRY_COMPARE(launcher->shownPage(), u"NetworkWindow"_s);
+    QCOMPARE(launcher->shownPopup(), QString());
+}
+
+void InstalledKeysTest::homeKeyClosesTheChoiceOfSettings() {
+    openChoiceOfSettings();
+    press(u"Home"_s);
+    QTRY_COMPARE(launcher->shownPage(), u"pageLauncher"_s);
+    QCOMPARE(launcher->shownPopup(), QString());
 }
 
 void InstalledKeysTest::powerKeyAsksAndObeys() {
