@@ -113,7 +113,8 @@ QString LauncherStart::pathOfNotices(const QString &pluginDirectory) const {
 }
 
 bool LauncherStart::rememberCrash(const TraceReader &trace) {
-    QStringList modules = trace.modules();
+    // The launcher leaves out frames without a name. Then it must be the plug-in that was being loaded.
+    QStringList modules = trace.modules() << trace.loadedPlugin();
     std::transform(modules.begin(), modules.end(), modules.begin(), resolvedLibrary);
     const QSettings store(u"talvenor"_s, u"zr-launcher"_s);
     const std::optional<QString> culprit = topmostListed(modules, listedPlugins(store));

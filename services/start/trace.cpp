@@ -10,6 +10,7 @@ namespace {
 constexpr qsizetype longestLine = 4096;
 // The crash handler asks for 50 frames.
 constexpr qsizetype mostLines = 64;
+constexpr QByteArrayView loadingFunction = "PluginsCollection::initPlugin";
 
 } // namespace
 
@@ -29,6 +30,14 @@ std::optional<TraceFrame> frameIn(const QByteArray &line) {
 
 bool beginsTrace(const QByteArray &line) {
     return line.contains("void crit_err_hdlr(int, siginfo_t*, void*)") && !line.startsWith("[bt]: ");
+}
+
+std::optional<QString> announcedLibrary(const QByteArray &line) {
+    for (const QByteArrayView start : {"initPlugin : loading plugin ", "initPlugin2 : loading plugin "}) {
+        if (line.startsWith(start))
+            return QString::fromLocal8Bit(line.sliced(start.size()));
+    }
+    return std::nullopt;
 }
 
 void TraceReader::read(QByteArrayView bytes) {
@@ -54,10 +63,13 @@ void TraceReader::endLine() {
         if (frame->number != 0 && frame->number <= lastNumber)
             beginTrace();
         lastNumber = frame->number;
+        isOfLoading = isOfLoading || currentLine.contains(loadingFunction);
         if (traceLines.size() < mostLines) {
             traceLines.append(currentLine);
             traceModules.append(frame->module);
         }
+    } else if (const std::optional<QString> library = announcedLibrary(currentLine)) {
+        announcedPlugin = *library;
     }
     currentLine.clear();
 }
@@ -65,5 +77,6 @@ void TraceReader::endLine() {
 void TraceReader::beginTrace() {
     traceLines.clear();
     traceModules.clear();
+    isOfLoading = false;
     lastNumber = 0;
 }

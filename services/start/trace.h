@@ -24,6 +24,9 @@ std::optional<TraceFrame> frameIn(const QByteArray &line);
 /// Whether the line is the first one of a trace: the crash handler's own signature.
 bool beginsTrace(const QByteArray &line);
 
+/// The library that the launcher says it is about to load, or nothing when the line says something else.
+std::optional<QString> announcedLibrary(const QByteArray &line);
+
 /// Picks the last trace out of a stream of bytes. Holds a bounded part of it, whatever comes: no line longer than
 /// 4 KiB, no more frames than a crash handler writes.
 class TraceReader {
@@ -34,6 +37,8 @@ public:
     QList<QByteArray> lines() const { return traceLines; }
     /// The modules of its frames, the topmost first.
     QStringList modules() const { return traceModules; }
+    /// The plug-in that was being loaded, which a trace may not name. Empty when none was.
+    QString loadedPlugin() const { return isOfLoading ? announcedPlugin : QString(); }
 
 private:
     void endLine();
@@ -42,5 +47,7 @@ private:
     QByteArray currentLine;
     QList<QByteArray> traceLines;
     QStringList traceModules;
+    QString announcedPlugin;
+    bool isOfLoading = false;
     int lastNumber = 0;
 };

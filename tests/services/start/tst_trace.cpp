@@ -25,6 +25,8 @@ private slots:
     void otherLinesDoNotDisturb();
     void traceWithoutSignatureBeginsWhereTheNumbersDo();
     void bareFramesMakeATrace();
+    void pluginBeingLoadedIsKnown_data();
+    void pluginBeingLoadedIsKnown();
     void brokenUpLinesAreJoined();
     void endlessLineIsForgotten();
     void floodOfFramesIsBounded();
@@ -85,6 +87,34 @@ void TraceTest::bareFramesMakeATrace() {
         reader.read(signature + '\n' + module + "(+0x1f)[0x7f00]\n/bin/launcher(main+0x2)[0x1]\n");
     QCOMPARE(reader.modules(), QStringList({u"/b.so"_s, u"/bin/launcher"_s}));
     QCOMPARE(reader.lines().size(), 3);
+}
+
+void TraceTest::pluginBeingLoadedIsKnown_data() {
+    QTest::addColumn<QByteArray>("errors");
+    QTest::addColumn<QString>("plugin");
+    const QByteArray loads =
+        "initPlugin2 : loading plugin /opt/liba.so\ninitPlugin2 : loading plugin /opt/lib b.so\n";
+    const QByteArray function = "_ZN17PluginsCollection11initPlugin2ERK7QStringii+0x13c) [0x1] "
+                                "PluginsCollection::initPlugin2(QString const&)\n";
+    QTest::newRow("nothing") << QByteArray() << QString();
+    QTest::newRow("loading") << loads + "[bt]: (4) zr-launcher(" + function << u"/opt/lib b.so"_s;
+    QTest::newRow("loading, older kind")
+        << "initPlugin : loading plugin /opt/liba.so\n[bt]: (4) "
+           "zr-launcher(_ZN17PluginsCollection10initPluginERK7QStringii+0x1) [0x1] PluginsCollection::initPlugin(QString const&)\n"_ba
+        << u"/opt/liba.so"_s;
+    QTest::newRow("afterwards") << loads + frame(2, "zr-launcher") + '\n' << QString();
+    QTest::newRow("no trace") << loads << QString();
+    QTest::newRow("an earlier trace")
+        << loads + "[bt]: (4) zr-launcher(" + function + frame(1, "zr-launcher") + '\n'
+        << QString();
+}
+
+void TraceTest::pluginBeingLoadedIsKnown() {
+    QFETCH(const QByteArray, errors);
+    QFETCH(const QString, plugin);
+    TraceReader reader;
+    reader.read(errors);
+    QCOMPARE(reader.loadedPlugin(), plugin);
 }
 
 void TraceTest::brokenUpLinesAreJoined() {
