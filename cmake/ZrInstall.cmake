@@ -1,6 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Where things are installed. Every run path is relative to the file that holds it, so that the installed
 # tree may be moved as a whole.
+#
+# What is installed belongs to one component, which becomes a package: launcher, plugins, dev or simulator.
+# What names none belongs to the launcher.
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME launcher)
 
 if(NOT DEFINED CMAKE_INSTALL_LIBDIR AND CMAKE_LIBRARY_ARCHITECTURE)
     set(CMAKE_INSTALL_LIBDIR lib/${CMAKE_LIBRARY_ARCHITECTURE} CACHE PATH "Libraries, below the prefix")
@@ -26,8 +30,10 @@ function(zr_install_library target)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
         EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN")
-    install(TARGETS ${target} EXPORT ZrLauncherTargets LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
-    install(FILES ${arg_HEADERS} DESTINATION ${ZR_INCLUDE_DIR}/${target})
+    set_property(GLOBAL APPEND PROPERTY ZR_LIBRARY_DIRS ${CMAKE_CURRENT_BINARY_DIR})
+    install(TARGETS ${target} EXPORT ZrLauncherTargets LIBRARY
+        DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_COMPONENT dev)
+    install(FILES ${arg_HEADERS} DESTINATION ${ZR_INCLUDE_DIR}/${target} COMPONENT dev)
 endfunction()
 
 # Writes and installs the package that plug-ins built elsewhere find with find_package(ZrLauncher).
@@ -36,7 +42,7 @@ function(zr_install_package)
         ${PROJECT_BINARY_DIR}/ZrLauncherConfig.cmake INSTALL_DESTINATION ${ZR_CMAKE_DIR})
     write_basic_package_version_file(${PROJECT_BINARY_DIR}/ZrLauncherConfigVersion.cmake
         COMPATIBILITY SameMinorVersion)
-    install(EXPORT ZrLauncherTargets NAMESPACE ZrLauncher:: DESTINATION ${ZR_CMAKE_DIR})
+    install(EXPORT ZrLauncherTargets NAMESPACE ZrLauncher:: DESTINATION ${ZR_CMAKE_DIR} COMPONENT dev)
     install(FILES ${PROJECT_BINARY_DIR}/ZrLauncherConfig.cmake
-        ${PROJECT_BINARY_DIR}/ZrLauncherConfigVersion.cmake DESTINATION ${ZR_CMAKE_DIR})
+        ${PROJECT_BINARY_DIR}/ZrLauncherConfigVersion.cmake DESTINATION ${ZR_CMAKE_DIR} COMPONENT dev)
 endfunction()

@@ -16,5 +16,5 @@ function(zr_add_plugin name)
     set_target_properties(${name} PROPERTIES
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ZR_PLUGIN_DIR} INSTALL_RPATH "$ORIGIN/../..")
     add_dependencies(shipped_plugins ${name})
-    install(TARGETS ${name} LIBRARY DESTINATION ${ZR_PLUGIN_DIR})
+    install(TARGETS ${name} LIBRARY DESTINATION ${ZR_PLUGIN_DIR} COMPONENT plugins)
 endfunction()
