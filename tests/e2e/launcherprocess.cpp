@@ -24,8 +24,6 @@ LauncherProcess::LauncherProcess()
 
 LauncherProcess::~LauncherProcess() {
     stop();
-    // The bus drops the name a little later; the next launcher needs it.
-    [[maybe_unused]] const bool gone = QTest::qWaitFor([] { return !isProbeThere(); });
 }
 
 bool LauncherProcess::start(const QStringList &arguments) {
@@ -40,10 +38,13 @@ bool LauncherProcess::start(const QStringList &arguments) {
     return QTest::qWaitFor([this] { return isVisible(u"pageLauncher"_s); }, longestStartMs);
 }
 
-int LauncherProcess::stop() {
+int LauncherProcess::stop(int signal) {
     if (process.state() != QProcess::NotRunning)
-        process.terminate();
-    return waitForEnd();
+        ::kill(static_cast<pid_t>(process.processId()), signal);
+    const int status = waitForEnd();
+    // The bus drops the name a little later; the next launcher needs it.
+    const bool isGone = QTest::qWaitFor([] { return !isProbeThere(); });
+    return isGone ? status : -1;
 }
 
 int LauncherProcess::waitForEnd() {

@@ -4,6 +4,7 @@
 #include <QDBusInterface>
 #include <QProcess>
 
+#include <csignal>
 #include <memory>
 
 /// The installed launcher as a process, and the probe inside it.
@@ -24,8 +25,8 @@ public:
     int runToEnd(const QStringList &arguments);
     /// Waits for the end of the process. Its exit status, -1 when a signal ended it.
     int waitForEnd();
-    /// Asks it to end and waits for that.
-    int stop();
+    /// Sends it `signal` and waits until it is gone, from the bus as well. Its exit status, -1 when the signal ended it.
+    int stop(int signal = SIGTERM);
     qint64 processId() const { return process.processId(); }
 
     /// Gives the launcher a framebuffer of that height.

@@ -32,6 +32,16 @@ QStringList textsOf() {
     return texts;
 }
 
+/// Not in another dialog that is a child of this one.
+template <typename Widget>
+const Widget *firstIn(const QWidget &dialog) {
+    for (const Widget *const widget : dialog.findChildren<Widget *>()) {
+        if (widget->window() == &dialog)
+            return widget;
+    }
+    return nullptr;
+}
+
 QWidget *header() {
     for (QWidget *const child : LauncherWindow::instance()->findChildren<QWidget *>()) {
         if (child->inherits("LauncherHeader"))
@@ -120,9 +130,9 @@ QString Probe::message() const {
     const QWidget *const dialog = QApplication::activeModalWidget();
     if (!dialog)
         return {};
-    if (const auto *const text = dialog->findChild<QTextEdit *>())
+    if (const auto *const text = firstIn<QTextEdit>(*dialog))
         return text->toPlainText();
-    const auto *const text = dialog->findChild<QLabel *>();
+    const auto *const text = firstIn<QLabel>(*dialog);
     return text ? text->text() : QString();
 }
 
