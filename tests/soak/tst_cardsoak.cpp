@@ -1,20 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "holdings.h"
 #include "insertedcards.h"
 #include "testconfig.h"
 
 #include <styleoverride.h>
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusInterface>
-#include <QDBusReply>
-#include <QDir>
-#include <QFile>
 
-#include <malloc.h>
 #include <map>
 #include <memory>
-#include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,32 +17,6 @@ namespace {
 constexpr int rounds = 5000;
 constexpr int warmUpRounds = 100;
 constexpr qint64 mostGrowthBytes = 2 * 1024 * 1024;
-
-struct Holdings {
-    qsizetype widgets;
-    qsizetype objects;
-    qsizetype descriptors;
-    int matchRules;
-    bool operator==(const Holdings &) const = default;
-};
-
-qint64 residentBytes() {
-    // What was freed counts as free only when it was given back.
-    ::malloc_trim(0);
-    QFile file(u"/proc/self/statm"_s);
-    if (!file.open(QIODevice::ReadOnly))
-        return -1;
-    return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
-}
-
-/// The bus's own count of what this connection wants to hear.
-int matchRules() {
-    const QDBusConnection bus = QDBusConnection::sessionBus();
-    QDBusInterface stats(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
-                         u"org.freedesktop.DBus.Debug.Stats"_s, bus);
-    const QDBusReply<QVariantMap> reply = stats.call(u"GetConnectionStats"_s, bus.baseService());
-    return reply.isValid() ? reply.value().value(u"MatchRules"_s, -1).toInt() : -1;
-}
 
 } // namespace
 
@@ -61,10 +29,6 @@ private slots:
 
 private:
     void insertAndRemove(int round);
-    Holdings holdings() const {
-        return {QApplication::allWidgets().size(), window->findChildren<QObject *>().size(),
-                QDir(u"/proc/self/fd"_s).entryList().size(), matchRules()};
-    }
 
     std::unique_ptr<LauncherWindow> window;
     std::map<QString, FakeCard> cards;
@@ -98,11 +62,11 @@ void CardSoakTest::fiveThousandCardsLeaveNothingBehind() {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {});
     for (int round = 0; round < warmUpRounds; ++round)
         insertAndRemove(round);
-    const Holdings before = holdings();
+    const Holdings before = holdingsOf(*window);
     const qint64 memoryBefore = residentBytes();
     for (int round = warmUpRounds; round < rounds; ++round)
         insertAndRemove(round);
-    const Holdings after = holdings();
+    const Holdings after = holdingsOf(*window);
     const qint64 growth = residentBytes() - memoryBefore;
     qInstallMessageHandler(nullptr);
 
