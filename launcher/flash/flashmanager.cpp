@@ -10,10 +10,22 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 
 #include <iostream>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// Nothing, which the copier refuses, where a partition's name leads out of the directory for drives: anybody on the bus can
+/// announce one.
+QString driveToCopyTo(const QString &mountDirectory) {
+    static const QRegularExpression drive(u"\\A/media/[^/]+\\z"_s);
+    return drive.match(mountDirectory).hasMatch() ? hostPath(mountDirectory) : QString();
+}
+
+} // namespace
 
 FlashManager::FlashManager(QWidget *parent)
     : QObject(parent),
@@ -35,7 +47,7 @@ FlashManager::~FlashManager() = default;
 void FlashManager::exportFiles() {
     QStringList sources{QDir::homePath() + u'/' + ZrLauncherConfig(u"paths"_s, u"main"_s).string()};
     exporting = true;
-    copier->copyDir(sources, hostPath(spy->flashDir()));
+    copier->copyDir(sources, driveToCopyTo(spy->flashDir()));
 }
 
 void FlashManager::flashRemoved() {

@@ -35,6 +35,7 @@ private slots:
     void emptyFolderNameCopiesTheHome();
     void oddFolderNamesAreCopied_data();
     void oddFolderNamesAreCopied();
+    void partitionNameThatLeadsElsewhereIsNotCopiedTo();
     void noCopiesNothing();
     void driveThatFailsBeforeItIsSaidToBePulledIsTold();
     void driveRemovedWhileItIsAskedAboutClosesTheQuestionSilently();
@@ -134,6 +135,12 @@ void FlashManagerTest::oddFolderNamesAreCopied() {
     insertAnd(u"sda1"_s, [this] { press(u"Yes"_s); });
     QCOMPARE(readFiles(media(u"sda1"_s)).value(copied), copied.isEmpty() ? QByteArray() : QByteArray("two"));
     QCOMPARE(readFiles(QDir::homePath()), before);
+}
+
+void FlashManagerTest::partitionNameThatLeadsElsewhereIsNotCopiedTo() {
+    QDir().mkpath(host(u"/elsewhere1"_s));
+    insertAnd(u"../elsewhere1"_s, [this] { press(u"Yes"_s); });
+    QCOMPARE(readFiles(host(u"/elsewhere1"_s)), FilesBelow());
 }
 
 void FlashManagerTest::noCopiesNothing() {
