@@ -6,9 +6,9 @@
 #include "power/keyfilter.h"
 #include "servicenotifier.h"
 #include "terminationsignals.h"
+#include "ui/colourchoice.h"
 #include "ui/launcherwindow.h"
 
-#include <palettefactory.h>
 #include <qwsserver.h>
 #include <styleoverride.h>
 
@@ -41,7 +41,7 @@ void loadTranslation(QTranslator &translator) {
 
 void dress() {
     QApplication::setFont(QFont(u"Liberation Sans"_s));
-    QApplication::setPalette(PaletteFactory::getPalette(u"GenericWindow"_s));
+    ColourChoice::wear(ColourChoice::stored());
     QApplication::setStyle(new StyleOverride(QApplication::style()));
 }
 

@@ -6,6 +6,7 @@
 #include <palettefactory.h>
 #include <statuslabel.h>
 
+#include <QEvent>
 #include <QPainter>
 
 using namespace Qt::Literals::StringLiterals;
@@ -82,6 +83,13 @@ void BatteryIndicator::redrawFromApmData(const ApmInfo &data) {
     redrawPixmap(data);
     redrawStatusLabel(data);
     lastRecord = data;
+}
+
+void BatteryIndicator::changeEvent(QEvent *event) {
+    PressingLabel::changeEvent(event);
+    // A record that is no other than the last would leave the picture in the colours that it has.
+    if (event->type() == QEvent::PaletteChange && !pixmap().isNull())
+        redrawFromApmData(std::exchange(lastRecord, ApmInfo()));
 }
 
 QColor BatteryIndicator::getColorFromApmInfo(const ApmInfo &info) const {

@@ -28,6 +28,9 @@ public slots:
     void redrawFromApmData(const ApmInfo &data);
     void showPanel();
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     QColor getColorFromApmInfo(const ApmInfo &info) const;
     void redrawPixmap(const ApmInfo &info);

@@ -4,8 +4,10 @@
 #include "power/mixerlisting.h"
 
 #include <roundslider.h>
+#include <tintedpicture.h>
 
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QProcess>
@@ -44,13 +46,14 @@ QByteArray mixerListing() {
 
 VolumePanel::VolumePanel(QWidget *parent)
     : PopupPanel(parent),
-      speakerIcon(makeIcon(u"speaker_black"_s)),
+      speakerIcon(makeIcon()),
       speakerSlider(new RoundSlider(this)),
-      microphoneIcon(makeIcon(u"microphone_black"_s)),
+      microphoneIcon(makeIcon()),
       microphoneSlider(new RoundSlider(this)),
       callerPixmap(u":/main/resources/speaker.png"_s) {
     connect(speakerSlider, SIGNAL(positionChanged(int)), this, SLOT(speakerVolumeChanged(int)));
     connect(microphoneSlider, SIGNAL(positionChanged(int)), this, SLOT(microphoneLevelChanged(int)));
+    tintIcons();
     setClipCallerRect(false);
     setCallerRectMargin(3);
     soundLevels();
@@ -58,11 +61,22 @@ VolumePanel::VolumePanel(QWidget *parent)
     microphoneSlider->setPosition(microphoneLevel);
 }
 
-QLabel *VolumePanel::makeIcon(const QString &name) {
+QLabel *VolumePanel::makeIcon() {
     auto *const icon = new QLabel(this);
-    icon->setPixmap(QPixmap(u":/main/resources/%1.png"_s.arg(name)));
     icon->setAlignment(Qt::AlignCenter);
     return icon;
+}
+
+void VolumePanel::tintIcons() {
+    const QColor ink = palette().color(QPalette::WindowText);
+    speakerIcon->setPixmap(tintedPicture(QPixmap(u":/main/resources/speaker_black.png"_s), ink));
+    microphoneIcon->setPixmap(tintedPicture(QPixmap(u":/main/resources/microphone_black.png"_s), ink));
+}
+
+void VolumePanel::changeEvent(QEvent *event) {
+    PopupPanel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        tintIcons();
 }
 
 void VolumePanel::soundLevels() {

@@ -33,6 +33,7 @@ signals:
     void enableChanged(bool enabled);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
 
@@ -41,7 +42,8 @@ private slots:
     void microphoneLevelChanged(int pos);
 
 private:
-    QLabel *makeIcon(const QString &name);
+    QLabel *makeIcon();
+    void tintIcons();
 
     QLabel *speakerIcon;
     RoundSlider *speakerSlider;

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "dayornight.h"
 #include "palettes.h"
 
-QPalette batteryPalette() {
+QPalette batteryPalette(PaletteFactory::Set set) {
+    const DayOrNight pick(set);
     // Not quite white: the outline is seen on the dark column, where its panel shows it too.
-    const QColor outline(0xF4, 0xF4, 0xFF);
-    const QColor ink(0x1B, 0x23, 0x40);
+    const QColor outline = pick(0xF4F4FF, 0xE8E9F7);
+    const QColor ink = pick(0x1B2340, 0x10142A);
 
-    QPalette palette = genericWindowPalette();
+    QPalette palette = picturePalette(set);
     palette.setColor(QPalette::Button, outline);
     palette.setColor(QPalette::ButtonText, ink);
     return palette;

@@ -1,18 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "dayornight.h"
 #include "palettes.h"
 
-QPalette chromePalette() {
-    const QColor chrome(0x2D, 0x3B, 0x6F);
-    const QColor sunk(0x24, 0x30, 0x5C);
-    const QColor line(0x1C, 0x26, 0x49);
-    const QColor edge(0x5A, 0x69, 0xA6);
-    const QColor onChrome(0xFF, 0xFF, 0xFF);
-    // Lighter than on the content: the accent of the pages would not be seen on navy.
-    const QColor accent(0x8C, 0x9E, 0xFF);
-    const QColor onAccent(0x10, 0x14, 0x2A);
-    const QColor soft(0xD2, 0xD8, 0xF0);
+QPalette chromePalette(PaletteFactory::Set set) {
+    const DayOrNight pick(set);
+    const QColor chrome = pick(0x2D3B6F, 0x12172B);
+    const QColor sunk = pick(0x24305C, 0x0D1120);
+    const QColor line = pick(0x1C2649, 0x2B3357);
+    const QColor edge = pick(0x5A69A6, 0x39426E);
+    const QColor onChrome = pick(0xFFFFFF, 0xE8E9F7);
+    // Lighter than on the content by day: the accent of the pages would not be seen on navy.
+    const QColor accent = pick(0x8C9EFF, 0x8C9EFF);
+    const QColor onAccent = pick(0x10142A, 0x10142A);
+    const QColor soft = pick(0xD2D8F0, 0xB4B9DA);
 
-    QPalette palette = genericWindowPalette();
+    QPalette palette = genericWindowPalette(set);
     palette.setColor(QPalette::Window, chrome);
     palette.setColor(QPalette::WindowText, onChrome);
     palette.setColor(QPalette::Base, sunk);
@@ -22,6 +24,8 @@ QPalette chromePalette() {
     palette.setColor(QPalette::ButtonText, onChrome);
     palette.setColor(QPalette::Highlight, accent);
     palette.setColor(QPalette::HighlightedText, onAccent);
+    palette.setColor(QPalette::Link, onChrome);
+    palette.setColor(QPalette::LinkVisited, soft);
     palette.setColor(QPalette::PlaceholderText, soft);
     palette.setColor(QPalette::Mid, edge);
     palette.setColor(QPalette::Dark, line);

@@ -1,16 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "dayornight.h"
 #include "palettes.h"
 
-QPalette genericWindowPalette() {
-    const QColor page(0xEB, 0xE9, 0xFF);
-    const QColor card(0xFF, 0xFF, 0xFF);
-    const QColor edge(0xC6, 0xC3, 0xEA);
-    const QColor ink(0x1B, 0x23, 0x40);
-    const QColor softInk(0x4A, 0x52, 0x80);
-    const QColor accent(0x3D, 0x57, 0xD6);
-    const QColor chrome(0x2D, 0x3B, 0x6F);
-    const QColor line(0x1C, 0x26, 0x49);
-    const QColor onChrome(0xFF, 0xFF, 0xFF);
+QPalette genericWindowPalette(PaletteFactory::Set set) {
+    const DayOrNight pick(set);
+    const QColor page = pick(0xEBE9FF, 0x171C33);
+    const QColor card = pick(0xFFFFFF, 0x202744);
+    const QColor edge = pick(0xC6C3EA, 0x39426E);
+    const QColor ink = pick(0x1B2340, 0xE8E9F7);
+    const QColor softInk = pick(0x4A5280, 0xB4B9DA);
+    const QColor accent = pick(0x3D57D6, 0x8C9EFF);
+    const QColor onAccent = pick(0xFFFFFF, 0x10142A);
+    // By night not the chrome of header and column: a button would not be seen on the page.
+    const QColor button = pick(0x2D3B6F, 0x39426E);
+    const QColor onButton = pick(0xFFFFFF, 0xE8E9F7);
+    const QColor disabledButton = pick(0xC6C3EA, 0x202744);
+    // Deeper by day, and lighter by night, than the accent: it is text.
+    const QColor link = pick(0x2D3B6F, 0xA9B7FF);
+    const QColor line = pick(0x1C2649, 0x2B3357);
+    const QColor shadow = pick(0x1C2649, 0x080A14);
 
     QPalette palette;
     palette.setColor(QPalette::Window, page);
@@ -18,12 +26,12 @@ QPalette genericWindowPalette() {
     palette.setColor(QPalette::Base, card);
     palette.setColor(QPalette::AlternateBase, page);
     palette.setColor(QPalette::Text, ink);
-    palette.setColor(QPalette::Button, chrome);
-    palette.setColor(QPalette::ButtonText, onChrome);
-    palette.setColor(QPalette::BrightText, onChrome);
+    palette.setColor(QPalette::Button, button);
+    palette.setColor(QPalette::ButtonText, onButton);
+    palette.setColor(QPalette::BrightText, onButton);
     palette.setColor(QPalette::Highlight, accent);
-    palette.setColor(QPalette::HighlightedText, onChrome);
-    palette.setColor(QPalette::Link, accent);
+    palette.setColor(QPalette::HighlightedText, onAccent);
+    palette.setColor(QPalette::Link, link);
     palette.setColor(QPalette::LinkVisited, softInk);
     palette.setColor(QPalette::ToolTipBase, card);
     palette.setColor(QPalette::ToolTipText, ink);
@@ -32,11 +40,11 @@ QPalette genericWindowPalette() {
     palette.setColor(QPalette::Midlight, page);
     palette.setColor(QPalette::Mid, edge);
     palette.setColor(QPalette::Dark, line);
-    palette.setColor(QPalette::Shadow, line);
+    palette.setColor(QPalette::Shadow, shadow);
 
     palette.setColor(QPalette::Disabled, QPalette::WindowText, softInk);
     palette.setColor(QPalette::Disabled, QPalette::Text, softInk);
-    palette.setColor(QPalette::Disabled, QPalette::Button, edge);
+    palette.setColor(QPalette::Disabled, QPalette::Button, disabledButton);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, softInk);
     return palette;
 }

@@ -6,33 +6,56 @@
 #include <QLoggingCategory>
 #include <QMap>
 
+#include <atomic>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 Q_LOGGING_CATEGORY(colorer, "zr.colorer", QtWarningMsg)
 
-const QMap<QString, QPalette> &allPalettes() {
-    static const QMap<QString, QPalette> palettes{
-        {u"GenericWindow"_s, genericWindowPalette()},
-        {u"Battery"_s, batteryPalette()},
-        {u"Chrome"_s, chromePalette()},
-        {u"TimeButton"_s, timeButtonPalette()},
-        {u"quality"_s, qualityPalette()},
+using Palettes = QMap<QString, QPalette>;
+
+std::atomic<PaletteFactory::Set> currentSet = PaletteFactory::Day;
+
+Palettes makePalettes(PaletteFactory::Set set) {
+    return {
+        {u"GenericWindow"_s, genericWindowPalette(set)},
+        {u"Battery"_s, batteryPalette(set)},
+        {u"Chrome"_s, chromePalette(set)},
+        {u"Paper"_s, genericWindowPalette(PaletteFactory::Day)},
+        {u"Picture"_s, picturePalette(set)},
+        {u"Slider"_s, sliderPalette(set)},
+        {u"TimeButton"_s, timeButtonPalette(set)},
+        {u"quality"_s, qualityPalette(set)},
     };
-    return palettes;
+}
+
+const Palettes &currentPalettes() {
+    static const Palettes day = makePalettes(PaletteFactory::Day);
+    static const Palettes night = makePalettes(PaletteFactory::Night);
+    return currentSet == PaletteFactory::Night ? night : day;
 }
 
 } // namespace
 
+PaletteFactory::Set PaletteFactory::set() {
+    return currentSet;
+}
+
+void PaletteFactory::setSet(Set set) {
+    currentSet = set;
+}
+
 QPalette PaletteFactory::getPalette(const QString &name) {
-    const auto palette = allPalettes().constFind(name);
-    if (palette != allPalettes().constEnd())
+    const Palettes &palettes = currentPalettes();
+    const auto palette = palettes.constFind(name);
+    if (palette != palettes.constEnd())
         return *palette;
     qCWarning(colorer) << "There is no palette named" << name;
-    return allPalettes().value(u"GenericWindow"_s);
+    return palettes.value(u"GenericWindow"_s);
 }
 
 QStringList PaletteFactory::names() {
-    return allPalettes().keys();
+    return currentPalettes().keys();
 }

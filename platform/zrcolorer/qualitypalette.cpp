@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "dayornight.h"
 #include "palettes.h"
 
-QPalette qualityPalette() {
-    const QColor good(0x1E, 0x8E, 0x3E);
-    const QColor warning(0xE0, 0x8A, 0x00);
-    const QColor bad(0xD3, 0x2F, 0x2F);
+QPalette qualityPalette(PaletteFactory::Set set) {
+    const DayOrNight pick(set);
+    const QColor good = pick(0x1E8E3E, 0x4CC36A);
+    const QColor warning = pick(0xE08A00, 0xFFB74D);
+    const QColor bad = pick(0xD32F2F, 0xFF6B6B);
+    const QColor notApplicable = pick(0x8A90B4, 0x6B7297);
 
-    QPalette palette = genericWindowPalette();
+    QPalette palette = genericWindowPalette(set);
     palette.setColor(QPalette::Active, QPalette::Window, good);
     palette.setColor(QPalette::Inactive, QPalette::Window, warning);
     palette.setColor(QPalette::Disabled, QPalette::Window, bad);
+    palette.setColor(QPalette::Mid, notApplicable);
     return palette;
 }

@@ -5,6 +5,7 @@
 
 #include <palettefactory.h>
 
+#include <QApplication>
 #include <QDynamicPropertyChangeEvent>
 #include <QPainter>
 #include <QStyleOption>
@@ -70,6 +71,11 @@ void drawHeaderSection(const QStyleOption &option, QPainter *painter) {
 } // namespace
 
 StyleOverride::StyleOverride(QStyle *base) : QProxyStyle(base) {}
+
+void StyleOverride::applyPalettes() {
+    for (QWidget *const widget : QApplication::allWidgets())
+        applyPalette(widget);
+}
 
 void StyleOverride::polish(QWidget *widget) {
     QProxyStyle::polish(widget);

@@ -16,6 +16,9 @@ public:
     /// Takes `base` over. The application's own current style may be handed in.
     explicit StyleOverride(QStyle *base);
 
+    /// Gives every widget the palette that it names anew: after a switch of PaletteFactory to its other set.
+    static void applyPalettes();
+
     using QProxyStyle::polish;
     void polish(QWidget *widget) override;
     using QProxyStyle::unpolish;

@@ -3,6 +3,7 @@
 
 #include "fontsizes.h"
 #include "presskeys.h"
+#include "tintedpicture.h"
 
 #include <QKeyEvent>
 #include <QPainter>
@@ -17,12 +18,8 @@ constexpr int textLeft = 72;
 constexpr int textRight = 12;
 constexpr qreal radius = 10;
 
-QPixmap tinted(const QPixmap &picture, const QColor &color) {
-    QPixmap result = picture;
-    QPainter painter(&result);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(QRectF(QPointF(), picture.deviceIndependentSize()), color);
-    return result;
+bool isDark(const QPalette &palette) {
+    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
 }
 
 } // namespace
@@ -43,7 +40,9 @@ QSize IconTile::minimumSizeHint() const {
 
 QPixmap IconTile::picture(bool isPressed) const {
     const QPixmap pixmap = icon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF());
-    return isPressed ? tinted(pixmap, palette().color(QPalette::HighlightedText)) : pixmap;
+    if (isPressed)
+        return tintedPicture(pixmap, palette().color(QPalette::HighlightedText));
+    return isDark(palette()) ? tintedPicture(pixmap, palette().color(QPalette::Highlight)) : pixmap;
 }
 
 void IconTile::paintEvent(QPaintEvent *) {
@@ -64,6 +63,8 @@ void IconTile::paintEvent(QPaintEvent *) {
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
+        if (isPressed)
+            focus.state |= QStyle::State_On;
         style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
     }
 }

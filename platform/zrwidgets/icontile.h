@@ -3,8 +3,9 @@
 
 #include <QAbstractButton>
 
-/// A plug-in's icon on a page: a picture and a name on a light tile that fills its cell. A name that is too long
-/// is elided; it never widens the page. GUI thread only.
+/// A plug-in's icon on a page: a picture and a name on a tile that fills its cell. The picture is drawn in
+/// lines of one dark colour; pressed tiles, and the dark ones of the night, show it in the palette's own. A
+/// name that is too long is elided; it never widens the page. GUI thread only.
 class IconTile : public QAbstractButton {
     Q_OBJECT
 

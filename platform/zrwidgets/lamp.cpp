@@ -12,7 +12,6 @@ namespace {
 
 constexpr qreal lampSize = 12;
 constexpr qreal ringWidth = 2;
-constexpr QColor notApplicable(0x8A, 0x90, 0xB4);
 
 QPainterPath lampShape(MeasQuality quality, const QRectF &box) {
     QPainterPath shape;
@@ -36,7 +35,7 @@ QPainterPath lampShape(MeasQuality quality, const QRectF &box) {
 } // namespace
 
 QColor lampColor(MeasQuality quality) {
-    static const QPalette colors = PaletteFactory::getPalette(u"quality"_s);
+    const QPalette colors = PaletteFactory::getPalette(u"quality"_s);
     switch (quality) {
     case Good:
         return colors.color(QPalette::Active, QPalette::Window);
@@ -47,7 +46,7 @@ QColor lampColor(MeasQuality quality) {
     case NotMeasured:
         break;
     }
-    return notApplicable;
+    return colors.color(QPalette::Mid);
 }
 
 void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality) {

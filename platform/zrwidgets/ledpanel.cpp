@@ -136,7 +136,7 @@ void LedPanel::scrollTo(int offset) {
 void LedPanel::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Mid), 2) : QPen(Qt::NoPen));
+    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
     painter.setBrush(palette().base());
     const qreal corner = isRounded ? radius : 0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom()), corner, corner);

@@ -2,9 +2,13 @@
 #include "pressinglabel.h"
 
 #include "presskeys.h"
+#include "tintedpicture.h"
 
 #include <QKeyEvent>
 #include <QPainter>
+#include <QStyle>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -23,6 +27,7 @@ void drawGround(QPainter &painter, const QRectF &rect, const QBrush &fill, const
 
 PressingLabel::PressingLabel(QWidget *parent, bool keepsPicture)
     : QLabel(parent), pictureIsKept(keepsPicture) {
+    setProperty("palette_id", u"Picture"_s);
     setFocusPolicy(Qt::TabFocus);
 }
 
@@ -35,7 +40,7 @@ QPixmap PressingLabel::downPixmap() const {
     down.fill(Qt::transparent);
     QPainter painter(&down);
     drawGround(painter, QRectF(QPointF(), picture.deviceIndependentSize()), palette().highlight(), Qt::NoPen);
-    painter.drawPixmap(0, 0, picture);
+    painter.drawPixmap(0, 0, tintedPicture(picture, palette().color(QPalette::HighlightedText)));
     return down;
 }
 
@@ -44,14 +49,20 @@ QSize PressingLabel::sizeHint() const {
 }
 
 void PressingLabel::paintEvent(QPaintEvent *event) {
+    const bool isLit = isHeld && !pictureIsKept;
     {
         QPainter painter(this);
-        if (isHeld && !pictureIsKept)
+        if (isLit)
             drawGround(painter, rect(), palette().highlight(), Qt::NoPen);
         if (hasFocus()) {
             const qreal inset = focusRingWidth / 2;
             drawGround(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), Qt::NoBrush,
                        QPen(palette().color(QPalette::Mid), focusRingWidth));
+        }
+        if (isLit && !pixmap().isNull()) {
+            const QPixmap picture = tintedPicture(pixmap(), palette().color(QPalette::HighlightedText));
+            style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), picture);
+            return;
         }
     }
     QLabel::paintEvent(event);

@@ -4,6 +4,8 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr int highest = 100;
@@ -16,6 +18,7 @@ constexpr qreal focusRingWidth = 3;
 } // namespace
 
 RoundSlider::RoundSlider(QWidget *parent) : QWidget(parent) {
+    setProperty("palette_id", u"Slider"_s);
     setFocusPolicy(Qt::StrongFocus);
 }
 

@@ -136,7 +136,7 @@ void TranslucentWindow::paintEvent(QPaintEvent *) {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
     painter.drawPixmap(0, 0, backdrop);
-    QColor dim = palette().color(QPalette::Dark);
+    QColor dim = palette().color(QPalette::Shadow);
     dim.setAlpha(dimmingAlpha);
     painter.fillRect(rect(), dim);
 }

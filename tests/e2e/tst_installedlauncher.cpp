@@ -55,14 +55,14 @@ void InstalledLauncherTest::instrumentThatWasNeverConfiguredShowsTheShippedPlugi
     const QString plugins = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR "/zr-launcher/plugins/");
     QFile::remove(plugins + "libprobe.so"_L1);
     QVERIFY(QFile::link(QStringLiteral(E2E_PROBE), plugins + "libprobe.so"_L1));
-    config.setCollection(u"zr"_s, u"system network reports sound refresh probe"_s);
+    config.setCollection(u"zr"_s, u"system network reports sound night refresh probe"_s);
     config.addPlugin(u"probe"_s, {.file = u"libprobe.so"_s});
     LauncherProcess launcher;
     launcher.environment.remove(u"XDG_CONFIG_DIRS"_s);
     QVERIFY2(launcher.start(), launcher.errors());
     QVERIFY(QFile::remove(plugins + "libprobe.so"_L1));
     QCOMPARE(launcher.selectorTexts(), QStringList{u"Настройки"_s});
-    QCOMPARE(launcher.iconTexts().size(), 4);
+    QCOMPARE(launcher.iconTexts().size(), 5);
     QVERIFY2(!launcher.errors().contains("not found"), launcher.errors());
     QVERIFY2(!launcher.errors().contains("failed"), launcher.errors());
 }

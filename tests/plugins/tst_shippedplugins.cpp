@@ -4,6 +4,7 @@
 #include <icontile.h>
 #include <launcherplugin.h>
 #include <pluginwindow.h>
+#include <ui/colourchoice.h>
 
 #include <QFile>
 #include <QPluginLoader>
@@ -65,6 +66,7 @@ private slots:
     void systemSavesButDoesNotLoad();
     void systemAnnouncesItsLevelWhenBroughtUp();
     void refreshHasAWindowButNoIcon();
+    void nightSwitchesTheColoursToAndFro();
     void reportsIsOfTheOlderKind();
     void reportsBringsItsWindowUp();
     void reportsHasNoWindowBeforeItIsWanted();
@@ -108,7 +110,7 @@ void ShippedPluginsTest::iconBringsTheWindowUp() {
 }
 
 void ShippedPluginsTest::iconHasAPicture_data() {
-    addPlugins({u"system"_s, u"network"_s, u"notice1"_s, u"notice8"_s});
+    addPlugins({u"system"_s, u"network"_s, u"sound"_s, u"night"_s, u"notice1"_s, u"notice8"_s});
 }
 
 void ShippedPluginsTest::iconHasAPicture() {
@@ -186,6 +188,18 @@ void ShippedPluginsTest::refreshHasAWindowButNoIcon() {
     QVERIFY(!root->statusWidget());
     QVERIFY(!root->keeper());
     QCOMPARE(root->pluginWindow()->windowTitle(), root->title());
+}
+
+void ShippedPluginsTest::nightSwitchesTheColoursToAndFro() {
+    ShippedPlugin plugin(u"night"_s);
+    auto *const icon = qobject_cast<QAbstractButton *>(plugin.root<GenericPlugin>()->iconWidget());
+    QVERIFY(icon);
+    for (const PaletteFactory::Set set : {PaletteFactory::Night, PaletteFactory::Day}) {
+        icon->click();
+        QCOMPARE(PaletteFactory::set(), set);
+        QCOMPARE(ColourChoice::stored(), set);
+        QCOMPARE(icon->isChecked(), set == PaletteFactory::Night);
+    }
 }
 
 void ShippedPluginsTest::reportsIsOfTheOlderKind() {

@@ -44,6 +44,7 @@ private slots:
     void panelShowsTheTable_data();
     void panelShowsTheTable();
     void whiteLevelIsRedrawnDarkOnThePanelOnly();
+    void otherColoursRedrawTheLastRecord();
     void pressOpensThePanel();
 
 private:
@@ -267,6 +268,24 @@ void BatteryIndicatorTest::whiteLevelIsRedrawnDarkOnThePanelOnly() {
     indicator.setPalette(palette);
     indicator.redrawFromApmData(record(ApmInfo::Charging, 80));
     QCOMPARE(panelOf(indicator)->pixmap().toImage(), pictureOf(indicator));
+}
+
+void BatteryIndicatorTest::otherColoursRedrawTheLastRecord() {
+    BatteryIndicator indicator;
+    indicator.ensurePolished();
+    settle(indicator, 60);
+    const QImage day = pictureOf(indicator);
+    const QImage table = panelOf(indicator)->grab().toImage();
+    QPalette palette = indicator.palette();
+    palette.setColor(QPalette::Button, Qt::yellow);
+    palette.setColor(QPalette::Text, Qt::red);
+    indicator.setPalette(palette);
+    QVERIFY(pictureOf(indicator) != day);
+    QVERIFY(panelOf(indicator)->grab().toImage() != table);
+    // The same reading as before keeps the new picture.
+    const qint64 key = indicator.pixmap().cacheKey();
+    indicator.redrawFromApmData(record(ApmInfo::High, 60));
+    QCOMPARE(indicator.pixmap().cacheKey(), key);
 }
 
 void BatteryIndicatorTest::pressOpensThePanel() {

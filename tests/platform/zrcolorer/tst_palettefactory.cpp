@@ -4,81 +4,80 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include <cmath>
-
 using namespace Qt::Literals::StringLiterals;
-
-namespace {
-
-/// Relative luminance and contrast as the web accessibility guidelines define them.
-double linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(const QColor &color) {
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
-double contrast(const QColor &one, const QColor &other) {
-    const double lighter = qMax(luminance(one), luminance(other));
-    const double darker = qMin(luminance(one), luminance(other));
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
-} // namespace
 
 class PaletteFactoryTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void textCanBeReadInTheSun_data();
-    void textCanBeReadInTheSun();
-    void disabledTextCanStillBeRead_data() { textCanBeReadInTheSun_data(); }
-    void disabledTextCanStillBeRead();
+    void cleanup() { PaletteFactory::setSet(PaletteFactory::Day); }
+
+    void dayIsTheFirstSet();
+    void everyPaletteHasANightOfItsOwn_data();
+    void everyPaletteHasANightOfItsOwn();
+    void paperStaysLight();
+    void nightIsDark();
+    void lampColoursDiffer_data();
     void lampColoursDiffer();
     void unknownNameGetsTheContentPalette();
 };
 
-void PaletteFactoryTest::textCanBeReadInTheSun_data() {
+void PaletteFactoryTest::dayIsTheFirstSet() {
+    QCOMPARE(PaletteFactory::set(), PaletteFactory::Day);
+    PaletteFactory::setSet(PaletteFactory::Night);
+    QCOMPARE(PaletteFactory::set(), PaletteFactory::Night);
+}
+
+void PaletteFactoryTest::everyPaletteHasANightOfItsOwn_data() {
     QTest::addColumn<QString>("name");
-    QTest::addColumn<QPalette::ColorRole>("ground");
-    QTest::addColumn<QPalette::ColorRole>("text");
-    for (const char *const name : {"GenericWindow", "Chrome", "TimeButton"}) {
-        const QString palette = QString::fromLatin1(name);
-        QTest::addRow("%s, window", name) << palette << QPalette::Window << QPalette::WindowText;
-        QTest::addRow("%s, tile", name) << palette << QPalette::Base << QPalette::Text;
-        QTest::addRow("%s, button", name) << palette << QPalette::Button << QPalette::ButtonText;
+    QStringList names = PaletteFactory::names();
+    names.removeAll(u"Paper"_s);
+    for (const QString &name : names)
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void PaletteFactoryTest::everyPaletteHasANightOfItsOwn() {
+    QFETCH(const QString, name);
+    const QPalette day = PaletteFactory::getPalette(name);
+    PaletteFactory::setSet(PaletteFactory::Night);
+    QVERIFY(PaletteFactory::getPalette(name) != day);
+    PaletteFactory::setSet(PaletteFactory::Day);
+    QCOMPARE(PaletteFactory::getPalette(name), day);
+}
+
+void PaletteFactoryTest::paperStaysLight() {
+    const QPalette day = PaletteFactory::getPalette(u"GenericWindow"_s);
+    PaletteFactory::setSet(PaletteFactory::Night);
+    QCOMPARE(PaletteFactory::getPalette(u"Paper"_s), day);
+}
+
+void PaletteFactoryTest::nightIsDark() {
+    PaletteFactory::setSet(PaletteFactory::Night);
+    for (const QString &name : {u"GenericWindow"_s, u"Chrome"_s}) {
+        const QPalette palette = PaletteFactory::getPalette(name);
+        for (const QPalette::ColorRole ground : {QPalette::Window, QPalette::Base, QPalette::Button})
+            QVERIFY(palette.color(ground).lightnessF() < 0.35F);
     }
 }
 
-void PaletteFactoryTest::textCanBeReadInTheSun() {
-    QFETCH(QString, name);
-    QFETCH(QPalette::ColorRole, ground);
-    QFETCH(QPalette::ColorRole, text);
-    const QPalette palette = PaletteFactory::getPalette(name);
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
-        QVERIFY(contrast(palette.color(group, ground), palette.color(group, text)) >= 7);
-    QVERIFY(contrast(palette.color(QPalette::Window), palette.color(QPalette::PlaceholderText)) >= 4.5);
-    QVERIFY(contrast(palette.color(QPalette::Highlight), palette.color(QPalette::HighlightedText)) >= 4.5);
-}
-
-void PaletteFactoryTest::disabledTextCanStillBeRead() {
-    QFETCH(QString, name);
-    QFETCH(QPalette::ColorRole, ground);
-    QFETCH(QPalette::ColorRole, text);
-    const QPalette palette = PaletteFactory::getPalette(name);
-    QVERIFY(contrast(palette.color(QPalette::Disabled, ground), palette.color(QPalette::Disabled, text)) >=
-            4);
+void PaletteFactoryTest::lampColoursDiffer_data() {
+    QTest::addColumn<PaletteFactory::Set>("set");
+    QTest::newRow("day") << PaletteFactory::Day;
+    QTest::newRow("night") << PaletteFactory::Night;
 }
 
 void PaletteFactoryTest::lampColoursDiffer() {
+    QFETCH(const PaletteFactory::Set, set);
+    PaletteFactory::setSet(set);
     const QPalette quality = PaletteFactory::getPalette(u"quality"_s);
     const QColor good = quality.color(QPalette::Active, QPalette::Window);
     const QColor warning = quality.color(QPalette::Inactive, QPalette::Window);
     const QColor bad = quality.color(QPalette::Disabled, QPalette::Window);
+    const QColor notApplicable = quality.color(QPalette::Mid);
     QVERIFY(good.green() > good.red() && good.green() > good.blue());
     QVERIFY(warning.red() > warning.blue() && warning.green() > warning.blue());
     QVERIFY(bad.red() > 2 * bad.green());
+    QVERIFY(notApplicable.hslSaturationF() < 0.25F);
 }
 
 void PaletteFactoryTest::unknownNameGetsTheContentPalette() {

@@ -21,6 +21,7 @@ private slots:
     void applicationsOwnStyleCanBeWrapped();
     void widgetGetsThePaletteItNames();
     void paletteFollowsTheProperty();
+    void switchOfTheSetReachesEveryWidget();
     void pressedButtonTurnsToTheAccent();
     void disabledButtonLooksDisabled();
     void textWiderThanItsButtonLosesItsEnd();
@@ -61,6 +62,36 @@ void StyleOverrideTest::paletteFollowsTheProperty() {
     widget.setProperty("palette_id", u"GenericWindow"_s);
     QCOMPARE(widget.palette().color(QPalette::Window),
              PaletteFactory::getPalette(u"GenericWindow"_s).color(QPalette::Window));
+}
+
+void StyleOverrideTest::switchOfTheSetReachesEveryWidget() {
+    QWidget named;
+    named.setProperty("palette_id", u"Chrome"_s);
+    QWidget child(&named);
+    QPushButton plain;
+    QWidget neverShown;
+    neverShown.setProperty("palette_id", u"Chrome"_s);
+    named.show();
+    plain.show();
+
+    const auto wear = [](PaletteFactory::Set set) {
+        PaletteFactory::setSet(set);
+        QApplication::setPalette(PaletteFactory::getPalette(u"GenericWindow"_s));
+        StyleOverride::applyPalettes();
+    };
+    for (const PaletteFactory::Set set : {PaletteFactory::Night, PaletteFactory::Day}) {
+        wear(set);
+        const QPalette chrome = PaletteFactory::getPalette(u"Chrome"_s);
+        const QPalette content = PaletteFactory::getPalette(u"GenericWindow"_s);
+        QCOMPARE(named.palette().color(QPalette::Window), chrome.color(QPalette::Window));
+        QCOMPARE(child.palette().color(QPalette::Base), chrome.color(QPalette::Base));
+        QTRY_COMPARE(plain.palette().color(QPalette::Button), content.color(QPalette::Button));
+    }
+    wear(PaletteFactory::Night);
+    neverShown.ensurePolished();
+    QCOMPARE(neverShown.palette().color(QPalette::Window),
+             PaletteFactory::getPalette(u"Chrome"_s).color(QPalette::Window));
+    wear(PaletteFactory::Day);
 }
 
 void StyleOverrideTest::pressedButtonTurnsToTheAccent() {

@@ -20,6 +20,7 @@ private slots:
 
     void tileIsLightAndTurnsToTheAccentWhenPressed();
     void tilesPictureTurnsWhiteWhenPressed();
+    void tilesPictureIsLightOnADarkTile();
     void longTitleDoesNotWidenTheTile_data();
     void longTitleDoesNotWidenTheTile();
     void tileAnswersTouchAndKeys();
@@ -49,6 +50,20 @@ void ButtonsTest::tilesPictureTurnsWhiteWhenPressed() {
     QCOMPARE(tile.grab().toImage().pixelColor(36, 32), QColor(Qt::blue));
     tile.setDown(true);
     QCOMPARE(tile.grab().toImage().pixelColor(36, 32), QColor(Qt::white));
+}
+
+void ButtonsTest::tilesPictureIsLightOnADarkTile() {
+    PaletteFactory::setSet(PaletteFactory::Night);
+    const QPalette night = PaletteFactory::getPalette(u"GenericWindow"_s);
+    PaletteFactory::setSet(PaletteFactory::Day);
+    QPixmap picture(40, 40);
+    picture.fill(Qt::blue);
+    IconTile tile{QIcon(picture), QString()};
+    tile.setPalette(night);
+    tile.resize(300, 64);
+    QCOMPARE(tile.grab().toImage().pixelColor(36, 32), night.color(QPalette::Highlight));
+    tile.setDown(true);
+    QCOMPARE(tile.grab().toImage().pixelColor(36, 32), night.color(QPalette::HighlightedText));
 }
 
 void ButtonsTest::longTitleDoesNotWidenTheTile_data() {
