@@ -8,8 +8,8 @@ QPalette genericWindowPalette(PaletteFactory::Set set) {
     const QColor card = pick(0xFFFFFF, 0x202744);
     const QColor edge = pick(0xC6C3EA, 0x39426E);
     const QColor ink = pick(0x1B2340, 0xE8E9F7);
-    const QColor softInk = pick(0x4A5280, 0xB4B9DA);
-    const QColor accent = pick(0x3D57D6, 0x8C9EFF);
+    const QColor softInk = pick(0x424A77, 0xB4B9DA);
+    const QColor accent = pick(0x334CC2, 0x8C9EFF);
     const QColor onAccent = pick(0xFFFFFF, 0x10142A);
     // By night not the chrome of header and column: a button would not be seen on the page.
     const QColor button = pick(0x2D3B6F, 0x39426E);

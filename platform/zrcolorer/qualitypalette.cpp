@@ -6,7 +6,7 @@ QPalette qualityPalette(PaletteFactory::Set set) {
     const DayOrNight pick(set);
     const QColor good = pick(0x1E8E3E, 0x4CC36A);
     const QColor warning = pick(0xE08A00, 0xFFB74D);
-    const QColor bad = pick(0xD32F2F, 0xFF6B6B);
+    const QColor bad = pick(0xE83A36, 0xFF6B6B);
     const QColor notApplicable = pick(0x8A90B4, 0x6B7297);
 
     QPalette palette = genericWindowPalette(set);
