@@ -3,6 +3,7 @@
 
 #include "zrlauncherconfig.h"
 
+#include <palettefactory.h>
 #include <warningwindow.h>
 
 #include <QFrame>
@@ -51,11 +52,12 @@ void FlashDialog::setupFrame() {
     column->addWidget(progressFrame, 0);
     column->addLayout(makeButtonRow(), 1);
     addContent(contentFrame, contentMargin, contentMargin, contentMargin, contentMargin);
-    // The sheet's ground is light in the night's colours too.
-    contentFrame->setProperty("palette_id", u"Paper"_s);
     contentFrame->setStyleSheet(
         u" QFrame { border-radius: 10px; border: 2px solid rgba( 45, 59, 111, 255 );background-color: rgba( 235, 233, 255, 255 );font: inherit;font-size: inherit;}"_s);
     progressFrame->setStyleSheet(u" QFrame { border: 0px; }"_s);
+    // The sheet's ground is light by night too, and what a sheet covers takes no palette from its parent.
+    for (QWidget *const child : contentFrame->findChildren<QWidget *>())
+        child->setPalette(PaletteFactory::getPalette(u"Paper"_s));
 }
 
 QLabel *FlashDialog::makeQuestion() {
