@@ -481,6 +481,13 @@ Tools</source>
     </message>
 </context>
 <context>
+    <name>NightPlugin</name>
+    <message>
+        <source>Night colours</source>
+        <translation>Ночные цвета</translation>
+    </message>
+</context>
+<context>
     <name>NoticeWindow</name>
     <message>
         <source>Save report</source>
