@@ -40,11 +40,12 @@ QSize CheckButton::minimumSizeHint() const {
 void CheckButton::paintEvent(QPaintEvent *) {
     QStyleOptionButton option;
     initStyleOption(&option);
-    option.palette.setBrush(QPalette::Button, option.palette.base());
+    if (isEnabled())
+        option.palette.setBrush(QPalette::Button, option.palette.base());
     QStylePainter painter(this);
     painter.drawControl(QStyle::CE_PushButtonBevel, option);
 
-    const bool isLit = option.state & (QStyle::State_On | QStyle::State_Sunken);
+    const bool isLit = isEnabled() && option.state & (QStyle::State_On | QStyle::State_Sunken);
     painter.setPen(option.palette.color(isLit ? QPalette::HighlightedText : QPalette::Text));
     painter.setFont(textFont());
     const QRect textRect = rect().adjusted(tightPadding, 0, -tightPadding, 0);

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QSize>
+
+class QPainter;
+class QStyleOption;
+class QStyleOptionButton;
+class QStyleOptionToolButton;
+
+/// Push buttons and tool buttons: rounded, the accent colour when pressed or checked.
+namespace ButtonStyle {
+
+void drawBevel(const QStyleOptionButton &option, QPainter *painter);
+void drawToolPanel(const QStyleOption &option, QPainter *painter);
+/// The option with the colours that its label has on the bevel. A text that is wider than the button loses its end;
+/// centred, it would lose both.
+QStyleOptionButton labelOption(const QStyleOptionButton &option, int buttonWidth);
+/// The same for a tool button, whose text is as wide as it is.
+QStyleOptionToolButton labelOption(const QStyleOptionToolButton &option);
+QSize size(const QSize &contents);
+
+} // namespace ButtonStyle
