@@ -12,6 +12,8 @@ constexpr int menuMarkWidth = 32;
 constexpr qreal edgeWidth = 1;
 /// Of a checked button that cannot be pressed now.
 constexpr qreal checkedEdgeWidth = 3;
+constexpr qreal pressedEdgeWidth = 2;
+constexpr qreal pressedInset = 3;
 
 QPen edgeOf(const QStyleOption &option) {
     if (!Shapes::isEnabled(option) && option.state & QStyle::State_On)
@@ -28,8 +30,16 @@ QRectF bodyOf(const QStyleOption &option) {
 void drawBody(const QStyleOption &option, QPainter *painter) {
     const auto fill = Shapes::isLit(option) ? QPalette::Highlight : QPalette::Button;
     const qreal cornerRadius =
-        Shapes::hasFocus(option) ? Shapes::radius - Shapes::focusMargin + 1 : Shapes::radius;
-    Shapes::drawRounded(painter, bodyOf(option), option.palette.brush(fill), edgeOf(option), cornerRadius);
+        Shapes::hasFocus(option) ? Shapes::radius - Shapes::focusRingWidth : Shapes::radius;
+    const QRectF body = bodyOf(option);
+    Shapes::drawRounded(painter, body, option.palette.brush(fill), edgeOf(option), cornerRadius);
+    if (!Shapes::isLit(option) || !(option.state & QStyle::State_Sunken) ||
+        !(option.state & QStyle::State_On))
+        return;
+    // It is lit already: a line inside answers the press.
+    Shapes::drawRounded(painter, body.adjusted(pressedInset, pressedInset, -pressedInset, -pressedInset),
+                        Qt::NoBrush, QPen(option.palette.color(QPalette::HighlightedText), pressedEdgeWidth),
+                        cornerRadius - pressedInset);
 }
 
 void drawRing(const QStyleOption &option, QPainter *painter) {

@@ -24,18 +24,22 @@ QPen edgeOf(const QStyleOption &option) {
     return QPen(option.palette.color(role), edgeWidth);
 }
 
+/// While it is held it shows the other colours: the answer to the press.
+bool isFilled(const QStyleOption &option) {
+    const bool isHeld = option.state & QStyle::State_Sunken;
+    return isChosen(option) != isHeld;
+}
+
 QBrush groundOf(const QStyleOption &option) {
     if (!Shapes::isEnabled(option))
         return option.palette.mid();
-    // While it is held, a mark shows already that it has been hit.
-    if (option.state & QStyle::State_Sunken)
-        return option.palette.highlight();
-    return isChosen(option) ? option.palette.highlight() : option.palette.base();
+    return isFilled(option) ? option.palette.highlight() : option.palette.base();
 }
 
 QColor markColor(const QStyleOption &option) {
-    return option.palette.color(Shapes::isEnabled(option) ? QPalette::HighlightedText
-                                                          : QPalette::PlaceholderText);
+    if (!Shapes::isEnabled(option))
+        return option.palette.color(QPalette::PlaceholderText);
+    return option.palette.color(isFilled(option) ? QPalette::HighlightedText : QPalette::Highlight);
 }
 
 QRectF squareIn(const QRect &rect) {

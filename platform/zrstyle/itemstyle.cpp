@@ -12,8 +12,8 @@ constexpr qreal ringRadius = 6;
 
 } // namespace
 
-void ItemStyle::drawHeaderSection(const QStyleOption &option, QPainter *painter) {
-    painter->fillRect(option.rect, option.palette.window());
+void ItemStyle::drawHeaderSection(const QStyleOption &option, const QBrush &ground, QPainter *painter) {
+    painter->fillRect(option.rect, ground);
     painter->fillRect(QRect(option.rect.left(), option.rect.bottom(), option.rect.width(), 1),
                       option.palette.mid());
 }
@@ -29,6 +29,15 @@ void ItemStyle::drawSortMark(const QStyleOptionHeader &option, QPainter *painter
         Shapes::drawChevron(painter, option.rect,
                             option.sortIndicator == QStyleOptionHeader::SortUp ? Qt::UpArrow : Qt::DownArrow,
                             option.palette.color(QPalette::PlaceholderText));
+}
+
+QStyleOptionViewItem ItemStyle::rowOption(const QStyleOptionViewItem &option) {
+    QStyleOptionViewItem row = option;
+    if (!Shapes::isEnabled(option)) {
+        row.palette.setBrush(QPalette::Highlight, option.palette.mid());
+        row.palette.setBrush(QPalette::HighlightedText, option.palette.placeholderText());
+    }
+    return row;
 }
 
 void ItemStyle::drawBranch(const QStyleOption &option, QPainter *painter) {

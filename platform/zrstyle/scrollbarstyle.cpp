@@ -53,10 +53,10 @@ QRect ScrollBarStyle::partRect(const QStyleOptionSlider &option, QStyle::SubCont
     }
 }
 
-void ScrollBarStyle::draw(const QStyleOptionSlider &option, QPainter *painter) {
+void ScrollBarStyle::draw(const QStyleOptionSlider &option, const QBrush &ground, QPainter *painter) {
     const bool isHeld =
         option.activeSubControls & QStyle::SC_ScrollBarSlider && option.state & QStyle::State_Sunken;
-    painter->fillRect(option.rect, option.palette.window());
+    painter->fillRect(option.rect, ground);
     const QRectF handle =
         QRectF(partRect(option, QStyle::SC_ScrollBarSlider))
             .marginsRemoved(isHorizontal(option) ? QMarginsF(0, handleMargin, 0, handleMargin)

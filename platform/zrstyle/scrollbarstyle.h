@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QBrush>
 #include <QStyle>
 
 class QPainter;
@@ -13,6 +14,6 @@ namespace ScrollBarStyle {
 constexpr int extent = 28;
 
 QRect partRect(const QStyleOptionSlider &option, QStyle::SubControl part);
-void draw(const QStyleOptionSlider &option, QPainter *painter);
+void draw(const QStyleOptionSlider &option, const QBrush &ground, QPainter *painter);
 
 } // namespace ScrollBarStyle

@@ -5,6 +5,7 @@
 #include "checkstyle.h"
 #include "controlfonts.h"
 #include "fieldstyle.h"
+#include "groupboxstyle.h"
 #include "itemstyle.h"
 #include "menustyle.h"
 #include "messageicon.h"
@@ -55,13 +56,29 @@ void drawFocusRing(const QStyleOption &option, QPainter *painter) {
         Shapes::drawFocusRing(painter, option.rect, Shapes::inkOn(option, QPalette::Highlight));
 }
 
+/// What the contents of a list or text lie on: its frame, header and scroll bars do so, too.
+QBrush groundOf(const QAbstractScrollArea *area) {
+    const QWidget *const viewport = area->viewport();
+    const auto role = viewport->autoFillBackground() ? viewport->backgroundRole() : QPalette::Window;
+    return viewport->palette().brush(role);
+}
+
+/// Of a header or scroll bar.
+QBrush groundBelow(const QStyleOption &option, const QWidget *widget) {
+    for (const QWidget *at = widget ? widget->parentWidget() : nullptr; at; at = at->parentWidget()) {
+        if (const auto *const area = qobject_cast<const QAbstractScrollArea *>(at))
+            return groundOf(area);
+        if (at->isWindow())
+            break;
+    }
+    return option.palette.window();
+}
+
 void drawPanelFrame(const QStyleOption &option, QPainter *painter, const QWidget *widget) {
     if (isComboBoxPopup(widget)) {
         MenuStyle::drawPanel(option, painter);
     } else if (const auto *const area = qobject_cast<const QAbstractScrollArea *>(widget)) {
-        const QWidget *const viewport = area->viewport();
-        const bool isField = viewport->backgroundRole() == QPalette::Base;
-        FieldStyle::drawFrame(option, isField ? FieldStyle::ground(option) : Qt::NoBrush, painter);
+        FieldStyle::drawFrame(option, groundOf(area), painter);
     } else {
         TabStyle::drawPane(option, painter);
     }
@@ -71,13 +88,6 @@ void drawLineEdit(const QStyleOptionFrame &option, QPainter *painter) {
     // Without a frame it is part of a field that has one.
     if (option.lineWidth > 0)
         FieldStyle::drawFrame(option, FieldStyle::ground(option), painter);
-}
-
-template <typename Option>
-Option withoutFocus(const Option &option) {
-    Option result = option;
-    result.state &= ~QStyle::State_HasFocus;
-    return result;
 }
 
 QRect besideMenuMark(const QStyleOption &option) {
@@ -168,7 +178,6 @@ void StyleOverride::drawPrimitive(PrimitiveElement element, const QStyleOption *
     case PE_Frame:
         drawPanelFrame(*option, painter, widget);
         break;
-    case PE_FrameGroupBox:
     case PE_FrameTabWidget:
         TabStyle::drawPane(*option, painter);
         break;
@@ -177,6 +186,12 @@ void StyleOverride::drawPrimitive(PrimitiveElement element, const QStyleOption *
         break;
     case PE_PanelMenu:
         MenuStyle::drawPanel(*option, painter);
+        break;
+    case PE_PanelItemViewRow:
+        if (const auto *const item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {
+            const QStyleOptionViewItem row = ItemStyle::rowOption(*item);
+            QProxyStyle::drawPrimitive(element, &row, painter, widget);
+        }
         break;
     case PE_IndicatorBranch:
         ItemStyle::drawBranch(*option, painter);
@@ -212,13 +227,11 @@ void StyleOverride::drawControl(ControlElement element, const QStyleOption *opti
 void StyleOverride::drawButton(ControlElement element, const QStyleOptionButton &button, QPainter *painter,
                                const QWidget *widget) const {
     switch (element) {
-    case CE_PushButton: {
-        // The bevel has drawn the ring of the focus.
-        const QStyleOptionButton rest = withoutFocus(button);
+    case CE_PushButton:
+        // The bevel draws the ring of the focus, too.
         ButtonStyle::drawBevel(button, painter);
-        drawButton(CE_PushButtonLabel, rest, painter, widget);
+        drawControl(CE_PushButtonLabel, &button, painter, widget);
         break;
-    }
     case CE_PushButtonBevel:
         ButtonStyle::drawBevel(button, painter);
         break;
@@ -232,8 +245,12 @@ void StyleOverride::drawButton(ControlElement element, const QStyleOptionButton 
     }
     case CE_CheckBox:
     case CE_RadioButton: {
-        const QStyleOptionButton rest = withoutFocus(button);
-        QProxyStyle::drawControl(element, &rest, painter, widget);
+        const bool isBox = element == CE_CheckBox;
+        QStyleOptionButton part = button;
+        part.rect = CheckStyle::markRect(button);
+        drawPrimitive(isBox ? PE_IndicatorCheckBox : PE_IndicatorRadioButton, &part, painter, widget);
+        part.rect = CheckStyle::textRect(button);
+        drawControl(isBox ? CE_CheckBoxLabel : CE_RadioButtonLabel, &part, painter, widget);
         if (Shapes::hasFocus(button))
             Shapes::drawFocusRing(painter, button.rect, button.palette.color(QPalette::Highlight));
         break;
@@ -278,8 +295,12 @@ void StyleOverride::drawOther(ControlElement element, const QStyleOption *option
     const auto *const item = qstyleoption_cast<const QStyleOptionMenuItem *>(option);
     const auto *const toolButton = qstyleoption_cast<const QStyleOptionToolButton *>(option);
     const auto *const comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
-        ItemStyle::drawHeaderSection(*option, painter);
+    const auto *const viewItem = qstyleoption_cast<const QStyleOptionViewItem *>(option);
+    if (element == CE_ItemViewItem && viewItem) {
+        const QStyleOptionViewItem row = ItemStyle::rowOption(*viewItem);
+        QProxyStyle::drawControl(element, &row, painter, widget);
+    } else if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+        ItemStyle::drawHeaderSection(*option, groundBelow(*option, widget), painter);
     } else if (element == CE_HeaderLabel && header) {
         const QStyleOptionHeader label = ItemStyle::headerLabelOption(*header);
         QProxyStyle::drawControl(element, &label, painter, widget);
@@ -308,7 +329,7 @@ void StyleOverride::drawComplexControl(ComplexControl control, const QStyleOptio
     const auto *const toolButton = qstyleoption_cast<const QStyleOptionToolButton *>(option);
     const auto *const groupBox = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
     if (control == CC_ScrollBar && slider)
-        ScrollBarStyle::draw(*slider, painter);
+        ScrollBarStyle::draw(*slider, groundBelow(*option, widget), painter);
     else if (control == CC_Slider && slider)
         SliderStyle::draw(*slider, painter);
     else if (control == CC_ComboBox && comboBox)
@@ -318,7 +339,7 @@ void StyleOverride::drawComplexControl(ComplexControl control, const QStyleOptio
     else if (control == CC_ToolButton && toolButton)
         drawToolButton(*toolButton, painter, widget);
     else if (control == CC_GroupBox && groupBox)
-        drawGroupBox(*groupBox, painter, widget);
+        GroupBoxStyle::draw(*groupBox, painter);
     else
         QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
@@ -333,15 +354,6 @@ void StyleOverride::drawToolButton(const QStyleOptionToolButton &button, QPainte
         label.rect = besideMenuMark(button);
     }
     QProxyStyle::drawControl(CE_ToolButtonLabel, &label, painter, widget);
-}
-
-void StyleOverride::drawGroupBox(const QStyleOptionGroupBox &box, QPainter *painter,
-                                 const QWidget *widget) const {
-    const QStyleOptionGroupBox rest = withoutFocus(box);
-    QProxyStyle::drawComplexControl(CC_GroupBox, &rest, painter, widget);
-    if (Shapes::hasFocus(box))
-        Shapes::drawFocusRing(painter, subControlRect(CC_GroupBox, &box, SC_GroupBoxFrame, widget),
-                              box.palette.color(QPalette::Highlight));
 }
 
 QRect StyleOverride::subElementRect(SubElement element, const QStyleOption *option,
@@ -377,6 +389,9 @@ QRect StyleOverride::subControlRect(ComplexControl control, const QStyleOptionCo
     const auto *const slider = qstyleoption_cast<const QStyleOptionSlider *>(option);
     const auto *const comboBox = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     const auto *const spinBox = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
+    const auto *const groupBox = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (control == CC_GroupBox && groupBox)
+        return GroupBoxStyle::partRect(*groupBox, part);
     if (control == CC_ScrollBar && slider)
         return ScrollBarStyle::partRect(*slider, part);
     if (control == CC_Slider && slider)
@@ -407,6 +422,8 @@ QSize StyleOverride::sizeFromContents(ContentsType type, const QStyleOption *opt
         return FieldStyle::comboBoxSize(contents);
     if (type == CT_SpinBox && spinBox)
         return FieldStyle::spinBoxSize(*spinBox, contents);
+    if (type == CT_GroupBox)
+        return GroupBoxStyle::size(contents);
     if (type == CT_TabBarTab)
         return TabStyle::size(contents);
     if (type == CT_ProgressBar && bar)

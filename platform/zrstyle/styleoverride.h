@@ -4,7 +4,6 @@
 #include <QProxyStyle>
 
 class QStyleOptionButton;
-class QStyleOptionGroupBox;
 class QStyleOptionProgressBar;
 class QStyleOptionTab;
 class QStyleOptionToolButton;
@@ -61,5 +60,4 @@ private:
     void drawOther(ControlElement element, const QStyleOption *option, QPainter *painter,
                    const QWidget *widget) const;
     void drawToolButton(const QStyleOptionToolButton &button, QPainter *painter, const QWidget *widget) const;
-    void drawGroupBox(const QStyleOptionGroupBox &box, QPainter *painter, const QWidget *widget) const;
 };

@@ -11,6 +11,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
+#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -30,9 +31,9 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 template <typename Widget>
-QWidget *sized(Widget *widget, int width, int height = 0) {
+QWidget *sized(Widget *widget, int width = 0, int height = 0) {
     widget->ensurePolished();
-    widget->resize(width, height ? height : widget->sizeHint().height());
+    widget->resize(width ? width : widget->sizeHint().width(), height ? height : widget->sizeHint().height());
     return widget;
 }
 
@@ -92,7 +93,7 @@ QWidget *tabs() {
     auto *const bar = new QTabBar;
     bar->addTab(u"Line"_s);
     bar->addTab(u"Test"_s);
-    return sized(bar, bar->sizeHint().width());
+    return sized(bar);
 }
 
 QWidget *plainText() {
@@ -136,6 +137,18 @@ QWidget *groupBox() {
     return sized(box, 160);
 }
 
+QWidget *menuButton() {
+    auto *const button = new QPushButton(u"Save"_s);
+    button->setMenu(new QMenu(button));
+    return sized(button, 128);
+}
+
+QWidget *message() {
+    auto *const window =
+        new QMessageBox(QMessageBox::Warning, {}, u"Stop the test?"_s, QMessageBox::Yes | QMessageBox::No);
+    return sized(window);
+}
+
 QWidget *menu() {
     auto *const list = new QMenu;
     list->addAction(u"Copy"_s);
@@ -145,7 +158,7 @@ QWidget *menu() {
     list->addSeparator();
     list->addMenu(u"More"_s);
     list->setActiveAction(list->actions().constFirst());
-    return sized(list, list->sizeHint().width());
+    return sized(list);
 }
 
 } // namespace
@@ -180,6 +193,8 @@ const QList<GalleryControl> &galleryControls() {
         {u"table"_s, table, {}},
         {u"tree"_s, tree, {}},
         {u"menu"_s, menu, {}},
+        {u"menu-button"_s, menuButton, {}},
+        {u"message"_s, message, {}},
     };
     return controls;
 }

@@ -3,12 +3,28 @@
 
 #include <palettefactory.h>
 
+#include <QAbstractAnimation>
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHelpEvent>
 #include <QImage>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QScrollBar>
+#include <QSlider>
+#include <QSpinBox>
+#include <QTabBar>
 #include <QTest>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QToolTip>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,6 +44,19 @@ private slots:
     void focusIsARing();
     void scrollBarsFitAThumb();
     void scrollBarWithAHugeRangeKeepsItsHandle();
+    void targetFitsAThumb_data();
+    void targetFitsAThumb();
+    void wholeCheckBoxCanBePressed();
+    void stepsOfASpinBoxFitAThumb();
+    void pressBesideTheHandleMovesTheSlider();
+    void listOfAComboBoxFitsAThumb();
+    void checkableGroupBoxIsCheckedByItsTitle();
+    void thereAreNoToolTips();
+    void nothingMovesByItself();
+    void disabledTextIsPlain();
+    void plainControlHasLegibleLetters();
+    void ownFontIsKept();
+    void progressBarBelowAStyleSheetKeepsItsLook();
 };
 
 void StyleOverrideTest::initTestCase() {
@@ -164,6 +193,154 @@ void StyleOverrideTest::scrollBarWithAHugeRangeKeepsItsHandle() {
     QVERIFY(!bar.grab().isNull());
     bar.setRange(0, 0);
     QVERIFY(!bar.grab().isNull());
+}
+
+void StyleOverrideTest::targetFitsAThumb_data() {
+    QTest::addColumn<std::shared_ptr<QWidget>>("widget");
+    const auto row = [](const char *name, QWidget *widget) {
+        QTest::newRow(name) << std::shared_ptr<QWidget>(widget);
+    };
+    row("push button", new QPushButton(u"Save"_s));
+    row("tool button", new QToolButton);
+    row("check box", new QCheckBox(u"Loop"_s));
+    row("radio button", new QRadioButton(u"E1"_s));
+    row("line edit", new QLineEdit);
+    row("spin box", new QSpinBox);
+    row("time edit", new QTimeEdit);
+    row("slider", new QSlider(Qt::Horizontal));
+    row("combo box", new QComboBox);
+    auto *const tabs = new QTabBar;
+    tabs->addTab(u"A"_s);
+    row("tab bar", tabs);
+    auto *const menu = new QMenu;
+    menu->addAction(u"A"_s);
+    row("menu", menu);
+}
+
+void StyleOverrideTest::targetFitsAThumb() {
+    QFETCH(std::shared_ptr<QWidget>, widget);
+    widget->ensurePolished();
+    QVERIFY2(widget->sizeHint().height() >= 52, qPrintable(QString::number(widget->sizeHint().height())));
+    QVERIFY2(widget->sizeHint().width() >= 52, qPrintable(QString::number(widget->sizeHint().width())));
+}
+
+void StyleOverrideTest::wholeCheckBoxCanBePressed() {
+    QCheckBox box(u"Loop"_s);
+    box.resize(box.sizeHint());
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(2, 2));
+    QVERIFY(box.isChecked());
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(box.width() - 3, box.height() - 3));
+    QVERIFY(!box.isChecked());
+}
+
+void StyleOverrideTest::stepsOfASpinBoxFitAThumb() {
+    QSpinBox box;
+    box.setValue(40);
+    box.resize(200, 52);
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(150, 4));
+    QCOMPARE(box.value(), 41);
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(146, 48));
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(98, 48));
+    QCOMPARE(box.value(), 39);
+}
+
+void StyleOverrideTest::pressBesideTheHandleMovesTheSlider() {
+    QSlider slider(Qt::Horizontal);
+    slider.setRange(0, 100);
+    slider.resize(240, 52);
+    QTest::mousePress(&slider, Qt::LeftButton, {}, QPoint(120, 26));
+    QVERIFY2(qAbs(slider.value() - 50) <= 1, qPrintable(QString::number(slider.value())));
+    QVERIFY(slider.isSliderDown());
+    QTest::mouseRelease(&slider, Qt::LeftButton, {}, QPoint(120, 26));
+}
+
+void StyleOverrideTest::listOfAComboBoxFitsAThumb() {
+    QComboBox box;
+    box.addItems({u"E1"_s, u"E3"_s});
+    box.resize(160, 52);
+    box.show();
+    box.showPopup();
+    QTRY_VERIFY(box.view()->isVisible());
+    QVERIFY(box.view()->visualRect(box.model()->index(0, 0)).height() >= 52);
+    // A panel with an edge of its own, not one with the page.
+    const QWidget *const panel = box.view()->parentWidget();
+    const QImage picture = box.view()->window()->grab().toImage();
+    QCOMPARE(picture.pixelColor(panel->width() / 2, 0), panel->palette().color(QPalette::PlaceholderText));
+    QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {}, QPoint(20, 100));
+    QCOMPARE(box.currentIndex(), 1);
+}
+
+void StyleOverrideTest::checkableGroupBoxIsCheckedByItsTitle() {
+    QGroupBox box(u"Limits"_s);
+    box.setCheckable(true);
+    box.resize(200, 120);
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(60, 26));
+    QVERIFY(!box.isChecked());
+}
+
+void StyleOverrideTest::thereAreNoToolTips() {
+    QPushButton button(u"Save"_s);
+    button.setToolTip(u"Saves"_s);
+    button.show();
+    QHelpEvent help(QEvent::ToolTip, QPoint(10, 10), button.mapToGlobal(QPoint(10, 10)));
+    QVERIFY(QApplication::sendEvent(&button, &help));
+    QVERIFY(!QToolTip::isVisible());
+}
+
+void StyleOverrideTest::nothingMovesByItself() {
+    const QStyle *const style = QApplication::style();
+    QCOMPARE(style->styleHint(QStyle::SH_Widget_Animation_Duration), 0);
+    QCOMPARE(style->styleHint(QStyle::SH_Widget_Animate), 0);
+    QCOMPARE(style->styleHint(QStyle::SH_Menu_SubMenuPopupDelay), 0);
+    QProgressBar bar;
+    bar.setRange(0, 0);
+    bar.resize(200, 24);
+    bar.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&bar));
+    bar.grab();
+    QVERIFY(QApplication::style()->findChildren<QAbstractAnimation *>().isEmpty());
+}
+
+void StyleOverrideTest::disabledTextIsPlain() {
+    QCOMPARE(QApplication::style()->styleHint(QStyle::SH_EtchDisabledText), 0);
+    // A mnemonic is a key that the instrument does not have.
+    QPushButton with(u"&Save"_s);
+    QPushButton without(u"Save"_s);
+    QCOMPARE(with.grab().toImage(), without.grab().toImage());
+}
+
+void StyleOverrideTest::plainControlHasLegibleLetters() {
+    QPushButton button;
+    QLineEdit edit;
+    QSpinBox box;
+    for (QWidget *const widget : std::initializer_list<QWidget *>{&button, &edit, &box}) {
+        widget->ensurePolished();
+        QCOMPARE(widget->font().pixelSize(), 18);
+    }
+}
+
+void StyleOverrideTest::ownFontIsKept() {
+    QPushButton button;
+    QFont font = button.font();
+    font.setPixelSize(14);
+    button.setFont(font);
+    button.ensurePolished();
+    QCOMPARE(button.font().pixelSize(), 14);
+}
+
+void StyleOverrideTest::progressBarBelowAStyleSheetKeepsItsLook() {
+    const auto picture = [](const QString &sheet) {
+        QFrame frame;
+        frame.setStyleSheet(sheet);
+        auto *const bar = new QProgressBar(&frame);
+        bar->setValue(30);
+        bar->resize(200, 24);
+        auto *const button = new QPushButton(u"Yes"_s, &frame);
+        button->setGeometry(0, 30, 100, 52);
+        frame.resize(200, 90);
+        return frame.grab().toImage();
+    };
+    QCOMPARE(picture(u"QFrame { border: 0px; }"_s), picture(QString()));
 }
 
 QTEST_MAIN(StyleOverrideTest)
