@@ -20,14 +20,18 @@
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QDynamicPropertyChangeEvent>
+#include <QErrorMessage>
+#include <QInputDialog>
 #include <QMessageBox>
 #include <QPainter>
+#include <QProgressDialog>
 #include <QStyleOption>
 
 namespace {
 
 constexpr char paletteProperty[] = "palette_id";
 constexpr int layoutStep = 8;
+constexpr int messageMargin = 16;
 constexpr int menuMarkWidth = 32;
 constexpr int headerHeight = 44;
 constexpr qreal windowEdgeWidth = 2;
@@ -41,6 +45,12 @@ void applyPalette(QWidget *widget) {
 /// The list that a combo box opens has no class that others may name.
 bool isComboBoxPopup(const QWidget *widget) {
     return widget && widget->inherits("QComboBoxPrivateContainer");
+}
+
+/// The ready-made dialogs; others draw their own edge. There is no window manager to do it.
+bool isMessageWindow(const QObject *object) {
+    return qobject_cast<const QMessageBox *>(object) || qobject_cast<const QInputDialog *>(object) ||
+           qobject_cast<const QProgressDialog *>(object) || qobject_cast<const QErrorMessage *>(object);
 }
 
 void drawWindowEdge(QWidget *window) {
@@ -147,7 +157,7 @@ void StyleOverride::unpolish(QWidget *widget) {
 bool StyleOverride::eventFilter(QObject *object, QEvent *event) {
     if (event->type() == QEvent::ToolTip)
         return true;
-    if (event->type() == QEvent::Paint && qobject_cast<QMessageBox *>(object))
+    if (event->type() == QEvent::Paint && isMessageWindow(object))
         drawWindowEdge(static_cast<QWidget *>(object));
     else if (event->type() == QEvent::DynamicPropertyChange &&
              static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == paletteProperty)
@@ -478,6 +488,7 @@ int StyleOverride::pixelMetric(PixelMetric metric, const QStyleOption *option, c
     case PM_LayoutTopMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
+        return isMessageWindow(widget) ? messageMargin : layoutStep;
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         return layoutStep;
@@ -515,6 +526,8 @@ int StyleOverride::styleHint(StyleHint hint, const QStyleOption *option, const Q
     case SH_DialogButtonBox_ButtonsHaveIcons:
     case SH_ComboBox_Popup:
         return 0;
+    case SH_FormLayoutLabelAlignment:
+        return Qt::AlignLeft | Qt::AlignVCenter;
     case SH_Slider_AbsoluteSetButtons:
         return Qt::LeftButton;
     case SH_Table_GridLineColor:
