@@ -9,7 +9,7 @@ class QStyleOption;
 class QStyleOptionComboBox;
 class QStyleOptionSpinBox;
 
-/// What a value is written or chosen in: line edits, spin boxes, combo boxes and the frames of texts and lists.
+/// What a value is written or chosen in: line edits, spin boxes, combo boxes; the frames of texts and lists.
 namespace FieldStyle {
 
 /// Between the edge of a text or list and what it shows: its square corners stay inside the round ones.

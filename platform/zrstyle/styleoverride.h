@@ -8,13 +8,14 @@ class QStyleOptionProgressBar;
 class QStyleOptionTab;
 class QStyleOptionToolButton;
 
-/// The instrument's look, laid over another style, so that plain Qt widgets of a plug-in look right by themselves.
+/// The instrument's look, laid over another style, so that plain Qt widgets of a plug-in look right by
+/// themselves.
 ///
-/// What can be pressed is 52 pixels high and answers with the accent colour at once: nothing is animated. The focus
-/// is a ring that can be seen from two metres, scroll bars are wide enough for a thumb, there are no tool tips.
-/// Colours are those of the widget's palette, letter sizes those of its class where it has none of its own. A
-/// widget whose property "palette_id" names a palette of PaletteFactory gets that palette when it is first
-/// shown, and again whenever the property changes after that. GUI thread only.
+/// What can be pressed is 52 pixels high and answers with the accent colour at once: nothing is animated.
+/// The focus is a ring that can be seen from two metres, scroll bars are wide enough for a thumb, there are
+/// no tool tips. Colours are those of the widget's palette, letter sizes those of its class where it has none
+/// of its own. A widget whose property "palette_id" names a palette of PaletteFactory gets that palette when
+/// it is first shown, and again whenever the property changes after that. GUI thread only.
 class StyleOverride : public QProxyStyle {
     Q_OBJECT
 

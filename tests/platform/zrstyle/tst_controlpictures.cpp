@@ -33,8 +33,8 @@ qint64 differenceBetween(const QImage &one, const QImage &other) {
 
 } // namespace
 
-/// The pictures are compared with those in references/; with ZR_MAKE_REFERENCES set they are written there instead.
-/// With ZR_GALLERY=FILE all of them are drawn on one sheet, to be looked at.
+/// The pictures are compared with those in references/; with ZR_MAKE_REFERENCES set they are written there
+/// instead. With ZR_GALLERY=FILE all of them are drawn on one sheet, ZR_GALLERY_HEIGHT high, to be looked at.
 class ControlPicturesTest : public QObject {
     Q_OBJECT
 
