@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ui/icongrid.h"
 
-#include <QGridLayout>
 #include <QWidget>
 
 namespace {
 
-constexpr int pageRows = 5;
+using IconGrid::pageRows;
+
 constexpr int pageColumns = 2;
 // A grid allocates every row and column up to the last one used, so a stray number must not reach it. Twice
 // the page is what an icon may ask for by its cell.
@@ -66,8 +66,8 @@ QWidget *clearCell(QGridLayout *grid, int row, int column) {
 
 } // namespace
 
-QGridLayout *IconGrid::makeButtonsLayout() {
-    auto *const grid = new QGridLayout;
+ScrolledLayout<QGridLayout> *IconGrid::makeButtonsLayout() {
+    auto *const grid = new ScrolledLayout<QGridLayout>;
     grid->setHorizontalSpacing(40);
     grid->setVerticalSpacing(8);
     grid->setContentsMargins(40, 6, 40, 6);
@@ -90,6 +90,28 @@ void IconGrid::initGrid(QGridLayout *grid, QWidget *parent) {
 
 int IconGrid::rowsOf(const QWidget *icon) {
     return qBound(1, icon->property("rows").toInt(), mostRows);
+}
+
+bool IconGrid::isEmpty(const QGridLayout *grid) {
+    for (int index = 0; index < grid->count(); ++index) {
+        const QWidget *const widget = grid->itemAt(index)->widget();
+        if (widget && !widget->property(placeholderMark).toBool())
+            return false;
+    }
+    return true;
+}
+
+int IconGrid::usedRows(const QGridLayout *grid) {
+    int used = 0;
+    for (int row = 0; row < grid->rowCount(); ++row) {
+        for (int column = 0; column < grid->columnCount(); ++column) {
+            if (grid->itemAtPosition(row, column)) {
+                ++used;
+                break;
+            }
+        }
+    }
+    return used;
 }
 
 IconGrid::Placement IconGrid::place(QGridLayout *grid, QWidget *icon, int row, int column) {

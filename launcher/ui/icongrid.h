@@ -1,13 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <thumbscroll.h>
+
+#include <QGridLayout>
 #include <QList>
 
-class QGridLayout;
 class QWidget;
 
 /// The grid of icons on a collection's page: five rows by two columns, more when icons ask for more.
 namespace IconGrid {
+
+/// Rows that share the page without scrolling.
+constexpr int pageRows = 5;
 
 /// What became of an icon.
 struct Placement {
@@ -21,7 +26,7 @@ struct Placement {
 };
 
 /// The empty layout of a page.
-QGridLayout *makeButtonsLayout();
+ScrolledLayout<QGridLayout> *makeButtonsLayout();
 
 /// Puts an empty placeholder into each of the first five rows' cells, so that they keep their size before icons
 /// arrive. `parent` owns the placeholders until the grid's own widget takes them.
@@ -29,6 +34,12 @@ void initGrid(QGridLayout *grid, QWidget *parent);
 
 /// Number of grid rows that the icon asks to span with its property "rows".
 int rowsOf(const QWidget *icon);
+
+/// Whether there is no icon, only placeholders or nothing.
+bool isEmpty(const QGridLayout *grid);
+
+/// Number of rows that hold anything; rows that are left out between others take no room.
+int usedRows(const QGridLayout *grid);
 
 /// Places `icon` at the cell, over what was there. A replaced icon is hidden, not deleted.
 Placement place(QGridLayout *grid, QWidget *icon, int row, int column);

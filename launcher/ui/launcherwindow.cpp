@@ -7,6 +7,7 @@
 #include "plugins/cardpluginscollection.h"
 #include "ui/apppopups.h"
 #include "ui/icongrid.h"
+#include "ui/iconpage.h"
 #include "ui/launcherheader.h"
 #include "ui/ui_launcherwindow.h"
 
@@ -39,6 +40,7 @@ namespace {
 constexpr unsigned int lineWidth = 2;
 constexpr int reportButtonHeight = 52;
 constexpr int infoPanelWidth = 400;
+constexpr auto settingsCollection = "zr"_L1;
 constexpr int settingsPosition = 1;
 constexpr int cardsPosition = 0;
 // A panel's own layout is its first child object.
@@ -158,7 +160,7 @@ QString LauncherWindow::cardType(PluginsCollection *collection) {
 }
 
 void LauncherWindow::newCollectionPage(PluginsCollection *collection) {
-    collectionPages[collection] = makePage();
+    collectionPages[collection] = makePage(collection);
     addSelectorButton(collection);
     addInfoPanel(collection);
     collection->load();
@@ -168,11 +170,13 @@ void LauncherWindow::newCollectionPage(PluginsCollection *collection) {
     }
 }
 
-QWidget *LauncherWindow::makePage() {
-    auto *const page = new QWidget;
-    QGridLayout *const grid = IconGrid::makeButtonsLayout();
-    page->setLayout(grid);
-    IconGrid::initGrid(grid, this);
+QWidget *LauncherWindow::makePage(const PluginsCollection *collection) {
+    auto *const page = new IconPage;
+    IconGrid::initGrid(qobject_cast<QGridLayout *>(page->layout()), this);
+    const QString name = collection->name();
+    page->setEmptyText(name == settingsCollection ? tr("No settings are configured for this instrument")
+                                                  : tr("No functions are configured for this card"),
+                       tr("They are listed in zr-launcher.conf, section [plugins], key \"%1\".").arg(name));
     pagesLayout->addWidget(page);
     return page;
 }
@@ -183,7 +187,7 @@ void LauncherWindow::addSelectorButton(PluginsCollection *collection) {
     button->setCheckable(true);
     collectionButtons[collection] = button;
     selectorGroup->addButton(button);
-    const int position = collection->name() == "zr"_L1 ? settingsPosition : cardsPosition;
+    const int position = collection->name() == settingsCollection ? settingsPosition : cardsPosition;
     bottomPanel->addWidget(button, position, 0, Qt::Alignment());
 }
 
@@ -266,7 +270,10 @@ void LauncherWindow::showCollectionPage(PluginsCollection *collection) {
         return;
     }
     if (!emptyPage) {
-        emptyPage = new QWidget;
+        auto *const page = new IconPage;
+        page->setEmptyText(tr("No functions are configured for this instrument"),
+                           tr("They are listed in zr-launcher.conf, section [plugins]."));
+        emptyPage = page;
         pagesLayout->addWidget(emptyPage);
     }
     pagesLayout->setCurrentWidget(emptyPage);

@@ -108,7 +108,7 @@ private:
     void initPageLauncher();
     void initCollectionLabels();
 
-    QWidget *makePage();
+    QWidget *makePage(const PluginsCollection *collection);
     void addSelectorButton(PluginsCollection *collection);
     void addInfoPanel(PluginsCollection *collection);
     void rmCollectionPage(PluginsCollection *collection);

@@ -1,18 +1,25 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "checkbutton.h"
 
-#include "fontsizes.h"
+#include "fittedtext.h"
 
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <QtMath>
 
 namespace {
 
 constexpr int buttonHeight = 52;
 constexpr int usualWidth = 112;
 constexpr int smallestWidth = 52;
+constexpr int widestMinimum = 104;
+// Words may be set that much tighter where room is short.
+constexpr qreal tightening = 0.75;
 constexpr int padding = 16;
 constexpr int tightPadding = 6;
+// Longer texts are not worth measuring.
+constexpr int mostLetters = 64;
+constexpr int verticalPadding = 4;
 
 } // namespace
 
@@ -34,7 +41,11 @@ QSize CheckButton::sizeHint() const {
 }
 
 QSize CheckButton::minimumSizeHint() const {
-    return {smallestWidth, buttonHeight};
+    const QFontMetrics metrics(FontSizes::sized(font(), FontSizes::Small, QFont::Bold));
+    const QString words = text().simplified().replace(u' ', u'\n');
+    const int widestWord = words.size() > mostLetters ? widestMinimum : metrics.size(0, words).width();
+    return {qBound(smallestWidth, qCeil(tightening * widestWord) + 2 * tightPadding, widestMinimum),
+            buttonHeight};
 }
 
 void CheckButton::paintEvent(QPaintEvent *) {
@@ -47,10 +58,7 @@ void CheckButton::paintEvent(QPaintEvent *) {
 
     const bool isLit = isEnabled() && option.state & (QStyle::State_On | QStyle::State_Sunken);
     painter.setPen(option.palette.color(isLit ? QPalette::HighlightedText : QPalette::Text));
-    painter.setFont(textFont());
-    const QRect textRect = rect().adjusted(tightPadding, 0, -tightPadding, 0);
-    QStringList lines = text().split(u'\n');
-    for (QString &line : lines)
-        line = painter.fontMetrics().elidedText(line, Qt::ElideRight, textRect.width());
-    painter.drawText(textRect, Qt::AlignCenter, lines.join(u'\n'));
+    const QRect textRect = rect().adjusted(tightPadding, verticalPadding, -tightPadding, -verticalPadding);
+    const auto largest = text().contains(u'\n') ? FontSizes::Small : FontSizes::Text;
+    FittedText::in(textRect.size(), text(), font(), largest).draw(&painter, textRect, Qt::AlignCenter);
 }

@@ -4,7 +4,8 @@
 #include <QPushButton>
 
 /// A button that stays in when it is chosen: a light tile that turns to the accent colour. Its text may have
-/// several lines and is elided where the button is narrower than the text. GUI thread only.
+/// several lines and is set smaller where the button is narrower than the text (see FittedText). A button can be as
+/// narrow as its longest word in the smallest letters, set tighter by a quarter. GUI thread only.
 class CheckButton : public QPushButton {
     Q_OBJECT
 

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "controlbottompanel.h"
 
+#include "thumbscroll.h"
+
+#include <QAbstractButton>
+#include <QEvent>
 #include <QHBoxLayout>
 
 namespace {
@@ -13,9 +17,11 @@ constexpr int spacing = 8;
 
 ControlBottomPanel::ControlBottomPanel(QWidget *parent)
     : QWidget(parent),
-      rowLayout(new QHBoxLayout(this)),
+      rowLayout(new ScrolledLayout<QHBoxLayout>(this)),
       leftLayout(new QHBoxLayout),
-      rightLayout(new QHBoxLayout) {
+      rightLayout(new QHBoxLayout),
+      scroll(new ThumbScroll(this, Qt::Horizontal)) {
+    rowLayout->scroll = scroll;
     rowLayout->setContentsMargins(margins);
     rowLayout->setSpacing(spacing);
     leftLayout->setSpacing(spacing);
@@ -27,9 +33,27 @@ ControlBottomPanel::ControlBottomPanel(QWidget *parent)
 
 void ControlBottomPanel::addWidget(QWidget *widget, int position, int stretch, Qt::Alignment alignment) {
     (position == RightEnd ? rightLayout : leftLayout)->addWidget(widget, stretch, alignment);
+    if (const auto *const button = qobject_cast<QAbstractButton *>(widget)) {
+        connect(button, &QAbstractButton::toggled, scroll, [this, button](bool isChecked) {
+            if (isChecked)
+                scroll->showWhole(button);
+        });
+    }
 }
 
 void ControlBottomPanel::removeWidget(QWidget *widget) {
+    widget->disconnect(scroll);
     leftLayout->removeWidget(widget);
     rightLayout->removeWidget(widget);
+}
+
+QSize ControlBottomPanel::minimumSizeHint() const {
+    return {1, rowLayout->minimumSize().height()};
+}
+
+bool ControlBottomPanel::event(QEvent *event) {
+    const bool isHandled = QWidget::event(event);
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+        scroll->setNeededLength(rowLayout->minimumSize().width());
+    return isHandled;
 }

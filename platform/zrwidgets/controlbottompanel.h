@@ -4,9 +4,13 @@
 #include <QWidget>
 
 class QHBoxLayout;
+class ThumbScroll;
+template <typename Layout>
+class ScrolledLayout;
 
-/// The row of buttons at the foot of a page. Buttons that need more than the row has get narrower together; the
-/// row never widens its window. GUI thread only.
+/// The row of buttons at the foot of a page. Buttons that need more than the row has get narrower together, as
+/// far as their texts allow, and then the row can be dragged sideways; the button that is checked comes into view.
+/// The row never widens its window. GUI thread only.
 class ControlBottomPanel : public QWidget {
     Q_OBJECT
 
@@ -21,8 +25,14 @@ public:
     /// Takes `widget` out of the row; it stays a child of it.
     void removeWidget(QWidget *widget);
 
+    QSize minimumSizeHint() const override;
+
+protected:
+    bool event(QEvent *event) override;
+
 private:
-    QHBoxLayout *rowLayout;
+    ScrolledLayout<QHBoxLayout> *rowLayout;
     QHBoxLayout *leftLayout;
     QHBoxLayout *rightLayout;
+    ThumbScroll *scroll;
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "icontile.h"
 
-#include "fontsizes.h"
+#include "fittedtext.h"
 #include "presskeys.h"
 #include "tintedpicture.h"
 
@@ -16,6 +16,7 @@ constexpr int pictureSize = 40;
 constexpr int pictureLeft = 16;
 constexpr int textLeft = 72;
 constexpr int textRight = 12;
+constexpr int textTop = 2;
 constexpr qreal radius = 10;
 
 bool isDark(const QPalette &palette) {
@@ -54,11 +55,10 @@ void IconTile::paintEvent(QPaintEvent *) {
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 
     painter.drawPixmap(pictureLeft, (height() - pictureSize) / 2, picture(isPressed));
-    painter.setFont(FontSizes::sized(font(), FontSizes::Large, QFont::Bold));
     painter.setPen(palette().color(isPressed ? QPalette::HighlightedText : QPalette::Text));
-    const QRect textRect(textLeft, 0, width() - textLeft - textRight, height());
-    painter.drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, textRect.width()));
+    const QRect textRect = rect().adjusted(textLeft, textTop, -textRight, -textTop);
+    FittedText::in(textRect.size(), text(), font(), FontSizes::Large)
+        .draw(&painter, textRect, Qt::AlignVCenter | Qt::AlignLeft);
 
     if (hasFocus()) {
         QStyleOptionFocusRect focus;

@@ -5,7 +5,7 @@
 
 /// A plug-in's icon on a page: a picture and a name on a tile that fills its cell. The picture is drawn in
 /// lines of one dark colour; pressed tiles, and the dark ones of the night, show it in the palette's own. A
-/// name that is too long is elided; it never widens the page. GUI thread only.
+/// long name is set smaller and on two lines (see FittedText); it never widens the page. GUI thread only.
 class IconTile : public QAbstractButton {
     Q_OBJECT
 

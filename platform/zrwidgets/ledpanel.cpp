@@ -14,11 +14,14 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int tallestRow = 25;
-constexpr int lowestRow = 16;
+// Lower rows would be too dense to be read from two metres.
+constexpr int lowestRow = 18;
 constexpr int columnWidth = 76;
 constexpr int lampWidth = 26;
 constexpr int padding = 6;
 constexpr qreal radius = 10;
+constexpr int markWidth = 3;
+constexpr int shortestMark = 24;
 // Nobody can read more than this beside a lamp; measuring 64 KiB of text would only cost time.
 constexpr qsizetype longestShownName = 64;
 
@@ -124,13 +127,34 @@ QRect LedPanel::ledRect(qsizetype index) const {
     return {area.x(), area.y() + int(index) * rowHeight() - scrollOffset, area.width(), rowHeight()};
 }
 
+int LedPanel::ledLength() const {
+    return isHorizontal ? columnWidth : rowHeight();
+}
+
+int LedPanel::shownLength() const {
+    return isHorizontal ? ledArea().width() : ledArea().height();
+}
+
+int LedPanel::farthestOffset() const {
+    return qMax(0, int(leds.size()) * ledLength() - shownLength());
+}
+
 void LedPanel::scrollTo(int offset) {
-    const QRect area = ledArea();
-    const int shown = isHorizontal ? area.width() : area.height();
-    const int needed = int(leds.size()) * (isHorizontal ? columnWidth : rowHeight());
-    const int bounded = qBound(0, offset, qMax(0, needed - shown));
+    const int bounded = qBound(0, offset, farthestOffset());
     if (std::exchange(scrollOffset, bounded) != bounded)
         update();
+}
+
+QRect LedPanel::scrollMark() const {
+    const int farthest = farthestOffset();
+    const int shown = shownLength();
+    if (farthest == 0 || shown <= shortestMark)
+        return {};
+    const int length = qMax(shortestMark, int(qint64(shown) * shown / (shown + farthest)));
+    const int start = int(qint64(shown - length) * scrollOffset / farthest);
+    const QRect area = ledArea();
+    return isHorizontal ? QRect(area.x() + start, height() - markWidth - 1, length, markWidth)
+                        : QRect(width() - markWidth - 1, area.y() + start, markWidth, length);
 }
 
 void LedPanel::paintEvent(QPaintEvent *event) {
@@ -141,9 +165,12 @@ void LedPanel::paintEvent(QPaintEvent *event) {
     const qreal corner = isRounded ? radius : 0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom()), corner, corner);
 
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Mid));
+    painter.drawRoundedRect(scrollMark(), markWidth / 2.0, markWidth / 2.0);
+
     painter.setClipRect(ledArea());
-    const int step = isHorizontal ? columnWidth : rowHeight();
-    for (qsizetype index = scrollOffset / step; index < leds.size(); ++index) {
+    for (qsizetype index = scrollOffset / ledLength(); index < leds.size(); ++index) {
         const QRect rect = ledRect(index);
         if (isHorizontal ? rect.left() > event->rect().right() : rect.top() > event->rect().bottom())
             break;
@@ -154,7 +181,8 @@ void LedPanel::paintEvent(QPaintEvent *event) {
 
 void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) const {
     drawLamp(painter, QRect(rect.x(), rect.y(), lampWidth, rect.height()), led.quality);
-    const QRect textRect = rect.adjusted(lampWidth, 0, -2, 0);
+    // The mark beside the names needs its room whether it is there or not, so that names keep their width.
+    const QRect textRect = rect.adjusted(lampWidth, 0, isHorizontal ? -2 : -markWidth, 0);
     const QString name = led.name.first(qMin(led.name.size(), longestShownName));
     const QFont font =
         fittingFont(FontSizes::sized(this->font(), FontSizes::Small, QFont::Bold), name, textRect.width());
@@ -194,10 +222,10 @@ void LedPanel::wheelEvent(QWheelEvent *event) {
 void LedPanel::keyPressEvent(QKeyEvent *event) {
     if (isPressKey(event->key()))
         emit clicked();
-    else if (event->key() == Qt::Key_Up)
-        scrollTo(scrollOffset - rowHeight());
-    else if (event->key() == Qt::Key_Down)
-        scrollTo(scrollOffset + rowHeight());
+    else if (event->key() == (isHorizontal ? Qt::Key_Left : Qt::Key_Up))
+        scrollTo(scrollOffset - ledLength());
+    else if (event->key() == (isHorizontal ? Qt::Key_Right : Qt::Key_Down))
+        scrollTo(scrollOffset + ledLength());
     else
         QWidget::keyPressEvent(event);
 }

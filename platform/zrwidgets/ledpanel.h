@@ -12,8 +12,9 @@
 /// A panel of named lamps.
 ///
 /// A lamp's shape and colour tell its state (see drawLamp), its name stands beside it and is set tighter where
-/// it is too long. Rows shrink from 25 to 16 pixels when there are many; what does not fit then is reached by
-/// dragging, by the wheel or by the arrow keys. Only lamps that changed are painted again. GUI thread only.
+/// it is too long. Rows shrink from 25 to 18 pixels when there are many; what does not fit then is reached by
+/// dragging, by the wheel or by the arrow keys, and a mark at the edge shows how far one has come. A drag is no
+/// press. Only lamps that changed are painted again. GUI thread only.
 class LedPanel : public QWidget {
     Q_OBJECT
 
@@ -67,6 +68,10 @@ private:
     QRect ledArea() const;
     int rowHeight() const;
     QRect ledRect(qsizetype index) const;
+    int ledLength() const;
+    int shownLength() const;
+    int farthestOffset() const;
+    QRect scrollMark() const;
     void scrollTo(int offset);
     void drawLed(QPainter *painter, const Led &led, const QRect &rect) const;
 

@@ -2,9 +2,26 @@
 #include "checkbutton.h"
 #include "controlbottompanel.h"
 
+#include <QSignalSpy>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+QList<CheckButton *> fill(ControlBottomPanel &row, int count) {
+    QList<CheckButton *> buttons;
+    for (int i = 0; i < count; ++i) {
+        buttons.append(new CheckButton(u"Card %1"_s.arg(i)));
+        row.addWidget(buttons.last(), i == count - 1, 0, Qt::Alignment());
+    }
+    row.resize(720, 66);
+    row.show();
+    QCoreApplication::processEvents();
+    return buttons;
+}
+
+} // namespace
 
 class ControlBottomPanelTest : public QObject {
     Q_OBJECT
@@ -13,6 +30,8 @@ private slots:
     void positionOneIsTheRightEnd();
     void removedWidgetLeavesItsPlace();
     void sevenLongLabelsDoNotWidenTheRow();
+    void moreThanFitAreReachedByAThumb();
+    void checkedButtonComesIntoView();
 };
 
 void ControlBottomPanelTest::positionOneIsTheRightEnd() {
@@ -55,6 +74,32 @@ void ControlBottomPanelTest::sevenLongLabelsDoNotWidenTheRow() {
         QVERIFY(button->x() >= 0);
         QVERIFY(button->geometry().right() < 720);
     }
+}
+
+void ControlBottomPanelTest::moreThanFitAreReachedByAThumb() {
+    ControlBottomPanel row;
+    const QList<CheckButton *> buttons = fill(row, 20);
+    CheckButton *const first = buttons.first();
+    CheckButton *const last = buttons.last();
+    QVERIFY(last->geometry().right() > row.width());
+    const QSignalSpy clicks(first, &CheckButton::clicked);
+    QTest::mousePress(first, Qt::LeftButton);
+    QTest::mouseMove(first, QPoint(-3000, 20));
+    QTest::mouseRelease(first, Qt::LeftButton);
+    QCOMPARE(last->geometry().right() + 1, row.width() - 40);
+    QCOMPARE(clicks.count(), 0);
+    QVERIFY(!first->isDown());
+    QTest::mouseClick(last, Qt::LeftButton);
+    QVERIFY(last->isChecked());
+}
+
+void ControlBottomPanelTest::checkedButtonComesIntoView() {
+    ControlBottomPanel row;
+    const QList<CheckButton *> buttons = fill(row, 20);
+    buttons.at(15)->setChecked(true);
+    QVERIFY(buttons.at(15)->geometry().right() < row.width());
+    buttons.at(0)->setChecked(true);
+    QVERIFY(buttons.at(0)->x() >= 0);
 }
 
 QTEST_MAIN(ControlBottomPanelTest)

@@ -29,6 +29,12 @@ protected:
     }
 };
 
+void addLamps(LedPanel &panel, int count) {
+    for (int i = 0; i < count; ++i)
+        panel.add(u"LED%1"_s.arg(i), MeasQuality(i % 4));
+    panel.invokeRebuild();
+}
+
 QImage lampPicture(MeasQuality quality) {
     QImage picture(20, 20, QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -54,6 +60,10 @@ private slots:
     void releaseOutsideIsNone();
     void keysClickToo();
     void manyLampsCanBeScrolled();
+    void arrowKeysScroll();
+    void dragIsNoClickAndAPressAfterItIs();
+    void markShowsThatThereIsMore_data();
+    void markShowsThatThereIsMore();
     void hugeInputIsDrawnInNoTime();
 };
 
@@ -185,12 +195,59 @@ void LedPanelTest::manyLampsCanBeScrolled() {
     for (int i = 0; i < 50; ++i)
         panel.add(u"LED%1"_s.arg(i), i < 25 ? Good : Bad);
     panel.invokeRebuild();
-    const QPoint lowestLamp(13, 6 + 10 * 16 + 8);
+    const QPoint lowestLamp(13, 6 + 10 * 18 - 9);
     QCOMPARE(panel.grab().toImage().pixelColor(lowestLamp), lampColor(Good));
     QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(40, 190));
     QTest::mouseMove(&panel, QPoint(40, -2000));
     QTest::mouseRelease(&panel, Qt::LeftButton, {}, QPoint(40, 190));
-    QCOMPARE(panel.grab().toImage().pixelColor(13, 200 - 6 - 8), lampColor(Bad));
+    QCOMPARE(panel.grab().toImage().pixelColor(13, 200 - 6 - 9), lampColor(Bad));
+}
+
+void LedPanelTest::arrowKeysScroll() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 200);
+    addLamps(panel, 24);
+    const QImage atTop = panel.grab().toImage();
+    QTest::keyClick(&panel, Qt::Key_Down);
+    QVERIFY(panel.grab().toImage() != atTop);
+    QTest::keyClick(&panel, Qt::Key_Up);
+    QCOMPARE(panel.grab().toImage(), atTop);
+    QTest::keyClick(&panel, Qt::Key_Up);
+    QCOMPARE(panel.grab().toImage(), atTop);
+}
+
+void LedPanelTest::dragIsNoClickAndAPressAfterItIs() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 200);
+    addLamps(panel, 24);
+    const QSignalSpy clicks(&panel, &LedPanel::clicked);
+    QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(40, 150));
+    QTest::mouseMove(&panel, QPoint(40, 60));
+    QTest::mouseRelease(&panel, Qt::LeftButton, {}, QPoint(40, 60));
+    QCOMPARE(clicks.count(), 0);
+    QTest::mouseClick(&panel, Qt::LeftButton, {}, QPoint(40, 60));
+    QCOMPARE(clicks.count(), 1);
+}
+
+void LedPanelTest::markShowsThatThereIsMore_data() {
+    QTest::addColumn<int>("lamps");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<bool>("isMarked");
+    QTest::newRow("4") << 4 << 330 << false;
+    QTest::newRow("12") << 12 << 330 << false;
+    QTest::newRow("24 on the low screen") << 24 << 330 << true;
+    QTest::newRow("24 on the high screen") << 24 << 450 << false;
+}
+
+void LedPanelTest::markShowsThatThereIsMore() {
+    QFETCH(int, lamps);
+    QFETCH(int, height);
+    QFETCH(bool, isMarked);
+    LedPanel panel(nullptr, false);
+    panel.resize(72, height);
+    addLamps(panel, lamps);
+    const QColor mark = panel.grab().toImage().pixelColor(72 - 3, 20);
+    QCOMPARE(mark != panel.palette().color(QPalette::Base), isMarked);
 }
 
 void LedPanelTest::hugeInputIsDrawnInNoTime() {
