@@ -51,6 +51,14 @@ void moveToFirstFreeCell(const QGridLayout *grid, IconGrid::Placement &placement
     }
 }
 
+bool isRowUsed(const QGridLayout *grid, int row) {
+    for (int column = 0; column < grid->columnCount(); ++column) {
+        if (grid->itemAtPosition(row, column))
+            return true;
+    }
+    return false;
+}
+
 /// Takes the widget out of the cell. Returns it when it was an icon.
 QWidget *clearCell(QGridLayout *grid, int row, int column) {
     QWidget *const widget = widgetAt(grid, row, column);
@@ -101,15 +109,14 @@ bool IconGrid::isEmpty(const QGridLayout *grid) {
     return true;
 }
 
-int IconGrid::usedRows(const QGridLayout *grid) {
+int IconGrid::shareRows(QGridLayout *grid) {
     int used = 0;
     for (int row = 0; row < grid->rowCount(); ++row) {
-        for (int column = 0; column < grid->columnCount(); ++column) {
-            if (grid->itemAtPosition(row, column)) {
-                ++used;
-                break;
-            }
-        }
+        const int stretch = isRowUsed(grid, row) ? 1 : 0;
+        used += stretch;
+        // Setting it asks for a new layout each time.
+        if (grid->rowStretch(row) != stretch)
+            grid->setRowStretch(row, stretch);
     }
     return used;
 }

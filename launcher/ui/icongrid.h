@@ -38,8 +38,9 @@ int rowsOf(const QWidget *icon);
 /// Whether there is no icon, only placeholders or nothing.
 bool isEmpty(const QGridLayout *grid);
 
-/// Number of rows that hold anything; rows that are left out between others take no room.
-int usedRows(const QGridLayout *grid);
+/// Makes all rows that hold anything equally high, those too in which only taller icons stand; rows that are left
+/// out between others take no room. Returns the number of rows that hold anything.
+int shareRows(QGridLayout *grid);
 
 /// Places `icon` at the cell, over what was there. A replaced icon is hidden, not deleted.
 Placement place(QGridLayout *grid, QWidget *icon, int row, int column);

@@ -35,8 +35,7 @@ QSize IconPage::minimumSizeHint() const {
     return {1, 1};
 }
 
-int IconPage::neededHeight() const {
-    const int rows = IconGrid::usedRows(grid);
+int IconPage::neededHeight(int rows) const {
     const int surplus = rows - IconGrid::pageRows;
     if (surplus <= 0)
         return 0;
@@ -49,7 +48,7 @@ int IconPage::neededHeight() const {
 bool IconPage::event(QEvent *event) {
     const bool isHandled = QWidget::event(event);
     if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
-        scroll->setNeededLength(neededHeight());
+        scroll->setNeededLength(neededHeight(IconGrid::shareRows(grid)));
         update();
     }
     return isHandled;

@@ -26,7 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    int neededHeight() const;
+    int neededHeight(int rows) const;
 
     QGridLayout *grid;
     ThumbScroll *scroll;

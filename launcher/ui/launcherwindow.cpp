@@ -65,6 +65,20 @@ void tellPlacement(const PluginsCollection *collection, const QWidget *icon,
                   << std::endl;
 }
 
+/// What an empty page says.
+void sayWhatToDo(IconPage *page, const QString &collection) {
+    if (collection.isEmpty())
+        page->setEmptyText(LauncherWindow::tr("No functions are configured for this instrument"),
+                           LauncherWindow::tr("They are listed in zr-launcher.conf, section [plugins]."));
+    else
+        page->setEmptyText(
+            collection == settingsCollection
+                ? LauncherWindow::tr("No settings are configured for this instrument")
+                : LauncherWindow::tr("No functions are configured for this card"),
+            LauncherWindow::tr("They are listed in zr-launcher.conf, section [plugins], key \"%1\".")
+                .arg(collection));
+}
+
 } // namespace
 
 LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_unique<Ui_LauncherWindow>()) {
@@ -173,10 +187,7 @@ void LauncherWindow::newCollectionPage(PluginsCollection *collection) {
 QWidget *LauncherWindow::makePage(const PluginsCollection *collection) {
     auto *const page = new IconPage;
     IconGrid::initGrid(qobject_cast<QGridLayout *>(page->layout()), this);
-    const QString name = collection->name();
-    page->setEmptyText(name == settingsCollection ? tr("No settings are configured for this instrument")
-                                                  : tr("No functions are configured for this card"),
-                       tr("They are listed in zr-launcher.conf, section [plugins], key \"%1\".").arg(name));
+    sayWhatToDo(page, collection->name());
     pagesLayout->addWidget(page);
     return page;
 }
@@ -271,8 +282,7 @@ void LauncherWindow::showCollectionPage(PluginsCollection *collection) {
     }
     if (!emptyPage) {
         auto *const page = new IconPage;
-        page->setEmptyText(tr("No functions are configured for this instrument"),
-                           tr("They are listed in zr-launcher.conf, section [plugins]."));
+        sayWhatToDo(page, QString());
         emptyPage = page;
         pagesLayout->addWidget(emptyPage);
     }

@@ -33,16 +33,12 @@ ControlBottomPanel::ControlBottomPanel(QWidget *parent)
 
 void ControlBottomPanel::addWidget(QWidget *widget, int position, int stretch, Qt::Alignment alignment) {
     (position == RightEnd ? rightLayout : leftLayout)->addWidget(widget, stretch, alignment);
-    if (const auto *const button = qobject_cast<QAbstractButton *>(widget)) {
-        connect(button, &QAbstractButton::toggled, scroll, [this, button](bool isChecked) {
-            if (isChecked)
-                scroll->showWhole(button);
-        });
-    }
+    if (qobject_cast<QAbstractButton *>(widget))
+        connect(widget, SIGNAL(toggled(bool)), this, SLOT(showChecked()), Qt::UniqueConnection);
 }
 
 void ControlBottomPanel::removeWidget(QWidget *widget) {
-    widget->disconnect(scroll);
+    widget->disconnect(this);
     leftLayout->removeWidget(widget);
     rightLayout->removeWidget(widget);
 }
@@ -53,7 +49,16 @@ QSize ControlBottomPanel::minimumSizeHint() const {
 
 bool ControlBottomPanel::event(QEvent *event) {
     const bool isHandled = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize)
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
         scroll->setNeededLength(rowLayout->minimumSize().width());
+        showChecked();
+    }
     return isHandled;
+}
+
+void ControlBottomPanel::showChecked() {
+    for (const QAbstractButton *const button : findChildren<QAbstractButton *>(Qt::FindDirectChildrenOnly)) {
+        if (button->isChecked())
+            scroll->showWhole(button);
+    }
 }

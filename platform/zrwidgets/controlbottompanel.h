@@ -30,6 +30,9 @@ public:
 protected:
     bool event(QEvent *event) override;
 
+private slots:
+    void showChecked();
+
 private:
     ScrolledLayout<QHBoxLayout> *rowLayout;
     QHBoxLayout *leftLayout;

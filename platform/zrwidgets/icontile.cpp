@@ -16,7 +16,7 @@ constexpr int pictureSize = 40;
 constexpr int pictureLeft = 16;
 constexpr int textLeft = 72;
 constexpr int textRight = 12;
-constexpr int textTop = 2;
+constexpr int textTop = 6;
 constexpr qreal radius = 10;
 
 bool isDark(const QPalette &palette) {

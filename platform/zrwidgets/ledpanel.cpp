@@ -15,7 +15,7 @@ namespace {
 
 constexpr int tallestRow = 25;
 // Lower rows would be too dense to be read from two metres.
-constexpr int lowestRow = 18;
+constexpr int lowestRow = 17;
 constexpr int columnWidth = 76;
 constexpr int lampWidth = 26;
 constexpr int padding = 6;
@@ -188,8 +188,11 @@ void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) con
         fittingFont(FontSizes::sized(this->font(), FontSizes::Small, QFont::Bold), name, textRect.width());
     painter->setFont(font);
     painter->setPen(palette().color(QPalette::Text));
+    // Widths are rounded, and eliding would cut a name that only just fits.
+    const QFontMetrics metrics(font);
+    const bool fits = metrics.horizontalAdvance(name) <= textRect.width();
     painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                      QFontMetrics(font).elidedText(name, Qt::ElideRight, textRect.width()));
+                      fits ? name : metrics.elidedText(name, Qt::ElideRight, textRect.width()));
 }
 
 void LedPanel::resizeEvent(QResizeEvent *) {

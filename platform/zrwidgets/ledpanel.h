@@ -12,7 +12,7 @@
 /// A panel of named lamps.
 ///
 /// A lamp's shape and colour tell its state (see drawLamp), its name stands beside it and is set tighter where
-/// it is too long. Rows shrink from 25 to 18 pixels when there are many; what does not fit then is reached by
+/// it is too long. Rows shrink from 25 to 17 pixels when there are many; what does not fit then is reached by
 /// dragging, by the wheel or by the arrow keys, and a mark at the edge shows how far one has come. A drag is no
 /// press. Only lamps that changed are painted again. GUI thread only.
 class LedPanel : public QWidget {

@@ -9,6 +9,13 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 
+namespace {
+
+// Left free beside what comes into view.
+constexpr int gap = 8;
+
+} // namespace
+
 ThumbScroll::ThumbScroll(QWidget *page_, Qt::Orientation orientation_)
     : QObject(page_), page(page_), orientation(orientation_) {
     // What is scrolled must not make a window of the page's own larger.
@@ -138,8 +145,8 @@ bool ThumbScroll::drag(QWidget *pressed, QEvent *event) {
 void ThumbScroll::showWhole(const QWidget *child) {
     page->layout()->activate();
     const QRect place = child->geometry();
-    const int start = along(place.topLeft());
-    const int overEnd = along(place.bottomRight()) + 1 - shownLength();
+    const int start = along(place.topLeft()) - gap;
+    const int overEnd = along(place.bottomRight()) + 1 + gap - shownLength();
     if (start < 0)
         scrollTo(shownFrom + start);
     else if (overEnd > 0)

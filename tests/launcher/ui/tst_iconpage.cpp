@@ -21,6 +21,7 @@ private slots:
 
     void fiveRowsShareThePage_data();
     void fiveRowsShareThePage();
+    void tallIconsSideBySideSpanEqualRows();
     void moreRowsKeepTheirHeightAndScroll_data();
     void moreRowsKeepTheirHeightAndScroll();
     void dragOnATileScrollsAndPressesNothing();
@@ -72,6 +73,20 @@ void IconPageTest::fiveRowsShareThePage() {
         QVERIFY2(qAbs(icon->height() - 62) <= 1, qPrintable(QString::number(icon->height())));
     }
     QVERIFY(!bar());
+}
+
+void IconPageTest::tallIconsSideBySideSpanEqualRows() {
+    auto *const two = new IconTile(QIcon(), u"Two"_s);
+    auto *const three = new IconTile(QIcon(), u"Three"_s);
+    two->setProperty("rows", 2);
+    three->setProperty("rows", 3);
+    IconGrid::place(grid, two, 0, 0);
+    IconGrid::place(grid, three, 0, 1);
+    window->show();
+    // The grid leaves out the space beside a row in which nothing begins.
+    const int spacing = grid->verticalSpacing();
+    QTRY_VERIFY(qAbs(two->height() - (2 * 62 + 8)) <= spacing);
+    QVERIFY(qAbs(three->height() - (3 * 62 + 2 * 8)) <= spacing);
 }
 
 void IconPageTest::moreRowsKeepTheirHeightAndScroll_data() {

@@ -2,6 +2,7 @@
 #include "checkbutton.h"
 #include "controlbottompanel.h"
 
+#include <QButtonGroup>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -96,6 +97,9 @@ void ControlBottomPanelTest::moreThanFitAreReachedByAThumb() {
 void ControlBottomPanelTest::checkedButtonComesIntoView() {
     ControlBottomPanel row;
     const QList<CheckButton *> buttons = fill(row, 20);
+    QButtonGroup group;
+    for (CheckButton *const button : buttons)
+        group.addButton(button);
     buttons.at(15)->setChecked(true);
     QVERIFY(buttons.at(15)->geometry().right() < row.width());
     buttons.at(0)->setChecked(true);

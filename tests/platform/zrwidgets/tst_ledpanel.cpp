@@ -195,7 +195,7 @@ void LedPanelTest::manyLampsCanBeScrolled() {
     for (int i = 0; i < 50; ++i)
         panel.add(u"LED%1"_s.arg(i), i < 25 ? Good : Bad);
     panel.invokeRebuild();
-    const QPoint lowestLamp(13, 6 + 10 * 18 - 9);
+    const QPoint lowestLamp(13, 6 + 10 * 17 - 9);
     QCOMPARE(panel.grab().toImage().pixelColor(lowestLamp), lampColor(Good));
     QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(40, 190));
     QTest::mouseMove(&panel, QPoint(40, -2000));
@@ -236,7 +236,7 @@ void LedPanelTest::markShowsThatThereIsMore_data() {
     QTest::newRow("4") << 4 << 330 << false;
     QTest::newRow("12") << 12 << 330 << false;
     QTest::newRow("24 on the low screen") << 24 << 330 << true;
-    QTest::newRow("24 on the high screen") << 24 << 450 << false;
+    QTest::newRow("24 on the high screen") << 24 << 425 << false;
 }
 
 void LedPanelTest::markShowsThatThereIsMore() {
