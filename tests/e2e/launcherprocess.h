@@ -57,6 +57,8 @@ public:
     int progress() { return ask<int>("progress"); }
     QStringList windowSize() { return ask<QStringList>("windowSize"); }
     bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }
+    QStringList clippedTexts() { return ask<QStringList>("clippedTexts"); }
+    bool pressRow(int row) { return ask<bool>("pressRow", {row}); }
     bool grab(const QString &file) { return ask<bool>("grab", {file}); }
     void goHome() { probe->call(QStringLiteral("goHome")); }
 

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "probe.h"
 
+#include "clippedtexts.h"
 #include "ui/launcherwindow.h"
 
 #include <checkbutton.h>
@@ -177,6 +178,10 @@ bool Probe::pressRow(int row) const {
 
 void Probe::goHome() const {
     LauncherWindow::instance()->goHome();
+}
+
+QStringList Probe::clippedTexts() const {
+    return ::clippedTexts();
 }
 
 bool Probe::grab(const QString &file) const {

@@ -44,6 +44,8 @@ public slots:
     void showShortcutWindow() { emit windowWanted(); }
     /// How often that shortcut was used.
     int shortcuts() const { return shortcutCount; }
+    /// Texts that are not shown whole (see clippedtexts.h).
+    QStringList clippedTexts() const;
     /// Writes a picture of the window with its open pop-up.
     bool grab(const QString &file) const;
 
