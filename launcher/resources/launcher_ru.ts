@@ -400,6 +400,26 @@ Tools</source>
         <source>Information about settings and measurements</source>
         <translation>Сведения о настройках и измерениях</translation>
     </message>
+    <message>
+        <source>No functions are configured for this instrument</source>
+        <translation>Для этого прибора не настроено ни одной функции</translation>
+    </message>
+    <message>
+        <source>They are listed in zr-launcher.conf, section [plugins].</source>
+        <translation>Они перечисляются в файле zr-launcher.conf, раздел [plugins].</translation>
+    </message>
+    <message>
+        <source>No settings are configured for this instrument</source>
+        <translation>Для этого прибора не настроено ни одной группы настроек</translation>
+    </message>
+    <message>
+        <source>No functions are configured for this card</source>
+        <translation>Для этой карты не настроено ни одной функции</translation>
+    </message>
+    <message>
+        <source>They are listed in zr-launcher.conf, section [plugins], key &quot;%1&quot;.</source>
+        <translation>Они перечисляются в файле zr-launcher.conf, раздел [plugins], ключ «%1».</translation>
+    </message>
 </context>
 <context>
     <name>LeftOutNote</name>
