@@ -75,8 +75,10 @@ void TranslucentWindow::fitContents() {}
 
 void TranslucentWindow::cover() {
     QWidget *const covered = coveredWindow();
-    setGeometry(covered ? covered->geometry() : screen()->availableGeometry());
+    // Contents that were wider before they were fitted would keep the dialog as wide.
     fitContents();
+    contentsLayout->activate();
+    setGeometry(covered ? covered->geometry() : screen()->availableGeometry());
     backdrop = covered ? covered->grab() : QPixmap();
     update();
 }

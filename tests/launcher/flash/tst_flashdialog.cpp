@@ -4,6 +4,7 @@
 #include "testconfig.h"
 #include "zrlauncherconfig.h"
 
+#include <styleoverride.h>
 #include <warningwindow.h>
 
 #include <QFrame>
@@ -26,6 +27,7 @@ class FlashDialogTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
 
@@ -74,6 +76,12 @@ private:
     std::unique_ptr<QWidget> window;
     FlashDialog *dialog = nullptr;
 };
+
+void FlashDialogTest::initTestCase() {
+    // Sizes as in the launcher.
+    QApplication::setFont(QFont(u"Liberation Sans"_s));
+    QApplication::setStyle(new StyleOverride(QApplication::style()));
+}
 
 void FlashDialogTest::init() {
     config = TestConfig();
@@ -329,6 +337,7 @@ void FlashDialogTest::nothingIsClipped_data() {
     QTest::addColumn<QString>("folder");
     for (const int height : {480, 600}) {
         QTest::addRow("%d", height) << height << u"reports"_s;
+        QTest::addRow("%d longer lines", height) << height << u"measurements and traces"_s.repeated(2);
         QTest::addRow("%d long folder", height)
             << height << u"measurements and traces of the line"_s.repeated(4);
     }
@@ -351,6 +360,7 @@ void FlashDialogTest::nothingIsClipped() {
         needed = label()->wordWrap() ? QSize(0, label()->heightForWidth(given.width())) : label()->sizeHint();
         dialog->closeGracefully();
     });
+    QCOMPARE(dialog->geometry(), window->geometry());
     QVERIFY2(dialog->rect().contains(frame), QTest::toString(frame));
     QVERIFY2(given.width() >= needed.width() && given.height() >= needed.height(), QTest::toString(needed));
 }
