@@ -254,7 +254,8 @@
 
  All following reports and trace files will be saved to device
  as well as to flash card.</source>
-        <translation>Скопировать все сохранённые отчёты и рефлектограммы на флеш-накопитель?
+        <translation>Скопировать все сохранённые отчёты и рефлектограммы
+ на флеш-накопитель?
 
  Они будут сохранены в папке «%1»
  корневого каталога накопителя.

@@ -89,12 +89,14 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     QFETCH(int, height);
     const Words &words = isRussian ? russian : english;
     const QString back = u"◄ "_s + words.settings;
-    configure(u"system network reports sound refresh"_s);
+    configure(u"system network reports sound night refresh"_s);
+    config.set(u"paths/main"_s, u"reports"_s);
     const QString plugins = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR "/zr-launcher/plugins/");
     config.addPlugin(u"system"_s, {.file = plugins + "libsystem.so"_L1, .settings = u"refresh"_s});
     config.addPlugin(u"network"_s, {.row = 2, .file = plugins + "libnetwork.so"_L1});
     config.addPlugin(u"reports"_s, {.version = 1, .column = 2, .file = plugins + "libreports.so"_L1});
     config.addPlugin(u"sound"_s, {.row = 2, .column = 2, .file = plugins + "libsound.so"_L1});
+    config.addPlugin(u"night"_s, {.row = 3, .column = 2, .file = plugins + "libnight.so"_L1});
     config.addPlugin(u"refresh"_s, {.file = plugins + "librefresh.so"_L1});
 
     LauncherProcess launcher;
@@ -149,6 +151,15 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     QTRY_VERIFY(launcher.message().contains("jitter"_L1));
     look(u"message"_s);
     launcher.press(words.ok);
+    simulate(u"flash insert sda1"_s);
+    QTRY_VERIFY(launcher.message().contains("reports"_L1));
+    look(u"question about a drive"_s);
+    simulate(u"flash mount-failed 127"_s);
+    QTRY_VERIFY(launcher.message().contains("127"_L1));
+    look(u"mount error"_s);
+    launcher.press(words.ok);
+    launcher.press(words.no);
+    simulate(u"flash remove"_s);
     QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u'\n')));
 }
 

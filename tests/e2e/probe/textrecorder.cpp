@@ -59,6 +59,8 @@ int TextRecorder::metric(PaintDeviceMetric metric) const {
         return int(size.height() * millimetresPerInch / dotsPerInch);
     case PdmDepth:
         return 32;
+    case PdmDevicePixelRatio:
+        return 1;
     case PdmDpiX:
     case PdmDpiY:
     case PdmPhysicalDpiX:
