@@ -25,17 +25,17 @@ constexpr int shortestMark = 24;
 // Nobody can read more than this beside a lamp; measuring 64 KiB of text would only cost time.
 constexpr qsizetype longestShownName = 64;
 
-/// The font in which the name fits, down to half its width; the rest is cut with an ellipsis.
+/// The font in which the name fits, down to three fifths of its width; the rest is cut with an ellipsis.
 QFont fittingFont(const QFont &font, const QString &name, int width) {
     const int needed = QFontMetrics(font).horizontalAdvance(name);
-    if (needed <= width)
+    if (needed <= qMax(0, width))
         return font;
     QFont tight = font;
     constexpr int tightest = 60;
     tight.setPixelSize(FontSizes::Small);
     // Hinting makes letters a little wider than their share.
     constexpr int step = 4;
-    for (int stretch = 100 * width / needed; stretch >= tightest; stretch -= step) {
+    for (int stretch = qMax(100 * width / needed, tightest); stretch >= tightest; stretch -= step) {
         tight.setStretch(stretch);
         if (QFontMetrics(tight).horizontalAdvance(name) <= width)
             break;
