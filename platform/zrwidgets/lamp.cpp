@@ -58,6 +58,7 @@ void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality) {
     if (quality == NotMeasured) {
         const qreal inset = ringWidth / 2;
         painter->setPen(QPen(lampColor(quality), ringWidth));
+        painter->setBrush(Qt::NoBrush);
         painter->drawPath(lampShape(quality, box.adjusted(inset, inset, -inset, -inset)));
     } else {
         painter->fillPath(lampShape(quality, box), lampColor(quality));
