@@ -65,6 +65,7 @@ private slots:
     void markShowsThatThereIsMore_data();
     void markShowsThatThereIsMore();
     void hugeInputIsDrawnInNoTime();
+    void anyWidthIsDrawn();
 };
 
 void LedPanelTest::stateTextsStandForQualities_data() {
@@ -248,6 +249,17 @@ void LedPanelTest::markShowsThatThereIsMore() {
     addLamps(panel, lamps);
     const QColor mark = panel.grab().toImage().pixelColor(72 - 3, 20);
     QCOMPARE(mark != panel.palette().color(QPalette::Base), isMarked);
+}
+
+void LedPanelTest::anyWidthIsDrawn() {
+    LedPanel panel(nullptr, false);
+    for (const QString &name : {QString(), u"LOS"_s, u"SIGNAL"_s})
+        panel.add(name, MeasQuality(1));
+    panel.invokeRebuild();
+    for (int width = 0; width < 80; ++width) {
+        panel.resize(width, 200);
+        QCOMPARE(panel.grab().width(), width);
+    }
 }
 
 void LedPanelTest::hugeInputIsDrawnInNoTime() {
