@@ -155,7 +155,7 @@ void FlashDialog::enableButtons(bool enable) {
     noButton->setEnabled(enable);
 }
 
-void FlashDialog::showWarning(QString msg) {
+void FlashDialog::showWarning(const QString &msg) {
     warning()->show(msg, QString());
 }
 

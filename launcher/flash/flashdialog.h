@@ -24,7 +24,7 @@ public slots:
     /// call has not returned yet, the question follows that one, if there is a drive then.
     void showDialog();
     /// Whether the dialog is open or not.
-    void showWarning(QString msg);
+    void showWarning(const QString &msg);
     /// The copy is over.
     void closeGracefully();
     void exportClicked();

@@ -62,7 +62,7 @@ void FlashManager::flashRemoved() {
     copier->cancel();
 }
 
-void FlashManager::dirCopierFailed(int errorCode, QString errorDesc) {
+void FlashManager::dirCopierFailed(int errorCode, const QString &errorDesc) {
     std::cerr << "Export to flash: error " << errorCode << ": " << qPrintable(errorDesc) << std::endl;
     // The whole mount directory stands behind "/dev/"; a device has such a name where it was linked there on purpose.
     if (QFile::exists(hostPath("/dev/"_L1 + spy->flashName())))

@@ -22,7 +22,7 @@ public:
 public slots:
     void exportFiles();
     void flashRemoved();
-    void dirCopierFailed(int errorCode, QString errorDesc);
+    void dirCopierFailed(int errorCode, const QString &errorDesc);
 
 private:
     FlashSpy *spy;

@@ -65,7 +65,7 @@ bool FlashSpy::isValidPartition(const QString &name) {
     return partition.match(name).hasMatch();
 }
 
-void FlashSpy::addFlash(QString devName) {
+void FlashSpy::addFlash(const QString &devName) {
     if (!deviceName.isEmpty()) {
         emit mountFailed(tr("Only one flash card can be used. Please, remove currently installed"));
         return;
@@ -78,7 +78,7 @@ void FlashSpy::addFlash(QString devName) {
     emit flashInserted(deviceName);
 }
 
-void FlashSpy::removeFlash(QString) {
+void FlashSpy::removeFlash(const QString &) {
     clearConfig();
     deviceName.clear();
     flashDirectory.clear();

@@ -25,9 +25,9 @@ signals:
 
 public slots:
     /// A partition was mounted. Whole drives are ignored, a second partition is refused.
-    void addFlash(QString devName);
+    void addFlash(const QString &devName);
     /// A partition went. Whichever it was, there is no drive any more.
-    void removeFlash(QString devName);
+    void removeFlash(const QString &devName);
     /// mount(8) ended with that exit code, in which each bit has a meaning of its own.
     void brokeFlash(int errCode);
 

@@ -55,7 +55,7 @@ bool DirCopier::isCopying() const {
     return copy != nullptr;
 }
 
-void DirCopier::copyDir(QStringList &sources, QString destination) {
+void DirCopier::copyDir(QStringList &sources, const QString &destination) {
     if (copy) {
         QMetaObject::invokeMethod(this, &DirCopier::refuse, Qt::QueuedConnection);
         return;

@@ -28,7 +28,7 @@ public:
     /// Begins to copy each of `sources` (paths of directories) into the existing directory `destination`. A source that
     /// ends in a slash gives its contents, another one becomes a directory there. While a copy is running the request is
     /// refused with rsyncErrorHappened(), and the running copy goes on.
-    void copyDir(QStringList &sources, QString destination);
+    void copyDir(QStringList &sources, const QString &destination);
     bool isCopying() const;
 
 public slots:
