@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "systemkeeper.h"
 
-#include <reportwriter.h>
 #include "systemreader.h"
 #include "systemreport.h"
 
 #include <reportsdirectory.h>
+#include <reportwriter.h>
 
 #include <QDateTime>
 

@@ -9,7 +9,8 @@ SmallDrive::SmallDrive(int kilobytes, const QString &place, bool isReadOnly)
     : mountPoint(place.isEmpty() ? directory.path() : place) {
     const QByteArray data = "size=" + QByteArray::number(kilobytes) + 'k';
     const unsigned long flags = isReadOnly ? MS_RDONLY : 0;
-    mounted = ::mount("none", QFile::encodeName(mountPoint).constData(), "tmpfs", flags, data.constData()) == 0;
+    mounted =
+        ::mount("none", QFile::encodeName(mountPoint).constData(), "tmpfs", flags, data.constData()) == 0;
 }
 
 SmallDrive::~SmallDrive() {
