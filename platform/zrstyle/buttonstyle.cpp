@@ -8,7 +8,6 @@
 namespace {
 
 constexpr int sidePadding = 16;
-constexpr int menuMarkWidth = 32;
 constexpr qreal edgeWidth = 1;
 /// Of a checked button that cannot be pressed now.
 constexpr qreal checkedEdgeWidth = 3;
@@ -93,4 +92,17 @@ QStyleOptionToolButton ButtonStyle::labelOption(const QStyleOptionToolButton &op
 QSize ButtonStyle::size(const QSize &contents) {
     return {qMax(contents.width() + 2 * sidePadding, Shapes::touchHeight),
             qMax(contents.height(), Shapes::touchHeight)};
+}
+
+bool ButtonStyle::hasMenuMark(const QStyleOptionToolButton &option) {
+    return option.features & (QStyleOptionToolButton::HasMenu | QStyleOptionToolButton::MenuButtonPopup);
+}
+
+QRect ButtonStyle::menuMark(const QStyleOption &option) {
+    return QStyle::visualRect(option.direction, option.rect,
+                              option.rect.adjusted(option.rect.width() - menuMarkWidth, 0, 0, 0));
+}
+
+QRect ButtonStyle::besideMenuMark(const QStyleOption &option) {
+    return QStyle::visualRect(option.direction, option.rect, option.rect.adjusted(0, 0, -menuMarkWidth, 0));
 }
