@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "pressinglabel.h"
 
+#include "darkpalette.h"
 #include "presskeys.h"
 #include "tintedpicture.h"
 
@@ -59,9 +60,11 @@ void PressingLabel::paintEvent(QPaintEvent *event) {
             drawGround(painter, QRectF(rect()).adjusted(inset, inset, -inset, -inset), Qt::NoBrush,
                        QPen(palette().color(QPalette::Mid), focusRingWidth));
         }
-        if (isLit && !pixmap().isNull()) {
-            const QPixmap picture = tintedPicture(pixmap(), palette().color(QPalette::HighlightedText));
-            style()->drawItemPixmap(&painter, contentsRect(), int(alignment()), picture);
+        if (!pixmap().isNull() && !pictureIsKept && (isLit || isDark(palette()))) {
+            const auto ink = isLit ? QPalette::HighlightedText : QPalette::PlaceholderText;
+            const QPixmap picture = tintedPicture(pixmap(), palette().color(ink));
+            const QRect room = contentsRect().adjusted(margin(), margin(), -margin(), -margin());
+            style()->drawItemPixmap(&painter, room, int(alignment()), picture);
             return;
         }
     }

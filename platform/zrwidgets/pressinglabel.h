@@ -3,12 +3,13 @@
 
 #include <QLabel>
 
-/// A picture that can be pressed. GUI thread only.
+/// A picture that can be pressed, drawn in lines of one light colour, which is dimmed in the colours for the night.
+/// GUI thread only.
 class PressingLabel : public QLabel {
     Q_OBJECT
 
 public:
-    /// With `keepsPicture` the picture stays as it is while it is held; without, it is put on an accent ground.
+    /// With `keepsPicture` the picture stays as it is, by night and while it is held; without, it is put on an accent ground.
     PressingLabel(QWidget *parent, bool keepsPicture);
 
     /// The picture as it looks while it is held; null when there is no picture.

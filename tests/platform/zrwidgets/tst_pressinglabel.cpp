@@ -3,6 +3,8 @@
 #include "pressinglabel.h"
 #include "statuspanel.h"
 
+#include <palettefactory.h>
+
 #include <QImage>
 #include <QPainter>
 #include <QSignalSpy>
@@ -18,6 +20,8 @@ private slots:
     void releaseOutsideIsNone();
     void keysClickToo();
     void heldLabelStandsOnTheAccent();
+    void pictureIsDimmedByNight();
+    void pictureStaysInItsPlace();
     void pictureCanBeKept();
     void labelWithoutAPictureHasNoPressedOneEither();
     void targetIsHighEnoughForAThumb();
@@ -77,6 +81,34 @@ void PressingLabelTest::heldLabelStandsOnTheAccent() {
     QCOMPARE(down.size(), QSize(36, 36));
     QCOMPARE(down.pixelColor(18, 5), accent);
     QCOMPARE(down.pixelColor(18, 18), onAccent);
+}
+
+void PressingLabelTest::pictureIsDimmedByNight() {
+    PressingLabel label(nullptr, false);
+    label.setPixmap(redPicture());
+    label.resize(60, 60);
+    label.setAlignment(Qt::AlignCenter);
+    QCOMPARE(label.grab().toImage().pixelColor(30, 30), QColor(Qt::red));
+    PaletteFactory::setSet(PaletteFactory::Night);
+    label.setPalette(PaletteFactory::getPalette(u"Picture"_s));
+    PaletteFactory::setSet(PaletteFactory::Day);
+    QCOMPARE(label.grab().toImage().pixelColor(30, 30), label.palette().color(QPalette::PlaceholderText));
+}
+
+void PressingLabelTest::pictureStaysInItsPlace() {
+    PressingLabel label(nullptr, false);
+    QPixmap picture(36, 36);
+    picture.fill(Qt::red);
+    label.setPixmap(picture);
+    label.setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    label.setMargin(4);
+    label.resize(60, 60);
+    const QColor onAccent = label.palette().color(QPalette::HighlightedText);
+    QCOMPARE(label.grab().toImage().pixelColor(30, 4), QColor(Qt::red));
+    QVERIFY(label.grab().toImage().pixelColor(30, 3) != QColor(Qt::red));
+    QTest::mousePress(&label, Qt::LeftButton);
+    QCOMPARE(label.grab().toImage().pixelColor(30, 4), onAccent);
+    QVERIFY(label.grab().toImage().pixelColor(30, 3) != onAccent);
 }
 
 void PressingLabelTest::pictureCanBeKept() {
