@@ -6,7 +6,9 @@ QPalette genericWindowPalette(PaletteFactory::Set set) {
     const DayOrNight pick(set);
     const QColor page = pick(0xEBE9FF, 0x171C33);
     const QColor card = pick(0xFFFFFF, 0x202744);
-    const QColor edge = pick(0xC6C3EA, 0x39426E);
+    const QColor groove = pick(0xC6C3EA, 0x39426E);
+    // By night the shades of page, tile and button are too near each other to tell where a control ends.
+    const QColor edge = pick(0xC6C3EA, 0x6873A8);
     const QColor ink = pick(0x1B2340, 0xE8E9F7);
     const QColor softInk = pick(0x424A77, 0xB4B9DA);
     const QColor accent = pick(0x334CC2, 0x8C9EFF);
@@ -17,7 +19,8 @@ QPalette genericWindowPalette(PaletteFactory::Set set) {
     const QColor disabledButton = pick(0xC6C3EA, 0x202744);
     // Deeper by day, and lighter by night, than the accent: it is text.
     const QColor link = pick(0x2D3B6F, 0xA9B7FF);
-    const QColor line = pick(0x1C2649, 0x2B3357);
+    // Separators, and around dialogs.
+    const QColor line = pick(0x1C2649, 0x6873A8);
     const QColor shadow = pick(0x1C2649, 0x080A14);
 
     QPalette palette;
@@ -37,8 +40,8 @@ QPalette genericWindowPalette(PaletteFactory::Set set) {
     palette.setColor(QPalette::ToolTipText, ink);
     palette.setColor(QPalette::PlaceholderText, softInk);
     palette.setColor(QPalette::Light, card);
-    palette.setColor(QPalette::Midlight, page);
-    palette.setColor(QPalette::Mid, edge);
+    palette.setColor(QPalette::Midlight, edge);
+    palette.setColor(QPalette::Mid, groove);
     palette.setColor(QPalette::Dark, line);
     palette.setColor(QPalette::Shadow, shadow);
 

@@ -17,7 +17,8 @@ constexpr qreal pressedInset = 3;
 QPen edgeOf(const QStyleOption &option) {
     if (!Shapes::isEnabled(option) && option.state & QStyle::State_On)
         return QPen(option.palette.color(QPalette::PlaceholderText), checkedEdgeWidth);
-    return QPen(option.palette.color(Shapes::isLit(option) ? QPalette::Highlight : QPalette::Mid), edgeWidth);
+    return QPen(option.palette.color(Shapes::isLit(option) ? QPalette::Highlight : QPalette::Midlight),
+                edgeWidth);
 }
 
 /// A button with the focus stands back from its ring: the accent would not be seen on a dark button.

@@ -49,7 +49,7 @@ void drawStep(const QStyleOptionSpinBox &option, QStyle::SubControl part, QPaint
     } else {
         const qreal edge = option.direction == Qt::RightToLeft ? rect.right() - 1 : rect.left();
         painter->fillRect(QRectF(edge, rect.top() + Shapes::padding, 1, rect.height() - 2 * Shapes::padding),
-                          option.palette.mid());
+                          option.palette.midlight());
     }
     const auto role = isPressed ? QPalette::HighlightedText : isPossible ? QPalette::Text : QPalette::Mid;
     drawSign(painter, rect.center(), isUp, option.palette.color(role));

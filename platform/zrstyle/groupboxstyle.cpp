@@ -43,7 +43,7 @@ QRect GroupBoxStyle::partRect(const QStyleOptionGroupBox &option, QStyle::SubCon
 void GroupBoxStyle::draw(const QStyleOptionGroupBox &option, QPainter *painter) {
     if (!(option.features & QStyleOptionFrame::Flat))
         Shapes::drawRounded(painter, option.rect, Qt::NoBrush,
-                            QPen(option.palette.color(QPalette::Mid), edgeWidth));
+                            QPen(option.palette.color(QPalette::Midlight), edgeWidth));
     if (isCheckable(option)) {
         QStyleOption mark = option;
         mark.rect = partRect(option, QStyle::SC_GroupBoxCheckBox);

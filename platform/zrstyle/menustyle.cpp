@@ -57,7 +57,7 @@ void MenuStyle::drawPanel(const QStyleOption &option, QPainter *painter) {
 void MenuStyle::drawItem(const QStyleOptionMenuItem &option, QPainter *painter) {
     if (option.menuItemType == QStyleOptionMenuItem::Separator) {
         painter->fillRect(QRect(option.rect.left(), option.rect.center().y(), option.rect.width(), 1),
-                          option.palette.mid());
+                          option.palette.midlight());
         return;
     }
     const bool isChosen = Shapes::isEnabled(option) && option.state & QStyle::State_Selected;

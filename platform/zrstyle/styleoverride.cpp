@@ -27,7 +27,7 @@ void applyPalette(QWidget *widget) {
 void drawWindowEdge(QWidget *window) {
     QPainter painter(window);
     Shapes::drawRounded(&painter, window->rect(), Qt::NoBrush,
-                        QPen(window->palette().color(QPalette::Button), windowEdgeWidth));
+                        QPen(window->palette().color(QPalette::Dark), windowEdgeWidth));
 }
 
 } // namespace

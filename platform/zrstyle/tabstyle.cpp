@@ -27,7 +27,7 @@ void TabStyle::drawTab(const QStyleOptionTab &option, QPainter *painter) {
         return;
     }
     Shapes::drawRounded(painter, body, isChosen(option) ? palette.highlight() : palette.base(),
-                        QPen(palette.color(isChosen(option) ? QPalette::Highlight : QPalette::Mid), 1));
+                        QPen(palette.color(isChosen(option) ? QPalette::Highlight : QPalette::Midlight), 1));
     if (Shapes::hasFocus(option))
         Shapes::drawRounded(painter, option.rect, Qt::NoBrush,
                             QPen(palette.color(QPalette::Highlight), Shapes::focusRingWidth),
@@ -44,7 +44,7 @@ QStyleOptionTab TabStyle::labelOption(const QStyleOptionTab &option) {
 }
 
 void TabStyle::drawPane(const QStyleOption &option, QPainter *painter) {
-    Shapes::drawRounded(painter, option.rect, Qt::NoBrush, QPen(option.palette.color(QPalette::Mid), 1));
+    Shapes::drawRounded(painter, option.rect, Qt::NoBrush, QPen(option.palette.color(QPalette::Midlight), 1));
 }
 
 QSize TabStyle::size(const QSize &contents) {

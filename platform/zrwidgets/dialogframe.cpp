@@ -14,7 +14,7 @@ void DialogFrame::paintEvent(QPaintEvent *) {
     constexpr qreal inset = borderWidth / 2;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Button), borderWidth));
+    painter.setPen(QPen(palette().color(QPalette::Dark), borderWidth));
     painter.setBrush(palette().window());
     painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), radius, radius);
 }

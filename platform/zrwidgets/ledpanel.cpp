@@ -160,13 +160,15 @@ QRect LedPanel::scrollMark() const {
 void LedPanel::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(hasFocus() ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
+    // Without lamps there is nothing that a key could do.
+    const bool hasRing = hasFocus() && !leds.isEmpty();
+    painter.setPen(hasRing ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
     painter.setBrush(palette().base());
     const qreal corner = isRounded ? radius : 0;
     painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom()), corner, corner);
 
     painter.setPen(Qt::NoPen);
-    painter.setBrush(palette().color(QPalette::Mid));
+    painter.setBrush(palette().color(QPalette::Midlight));
     painter.drawRoundedRect(scrollMark(), markWidth / 2.0, markWidth / 2.0);
 
     painter.setClipRect(ledArea());

@@ -146,7 +146,7 @@ void PopupPanel::paintEvent(QPaintEvent *) {
     painter.setRenderHint(QPainter::Antialiasing);
     drawShadow(painter, frame, width);
     constexpr qreal inset = borderWidth / 2.0;
-    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Button), borderWidth));
+    painter.setPen(QPen(palette().color(QPalette::Dark), borderWidth));
     painter.setBrush(palette().window());
     painter.drawRoundedRect(frame.adjusted(inset, inset, -inset, -inset), radius, radius);
 }

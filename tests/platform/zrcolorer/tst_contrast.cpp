@@ -7,7 +7,8 @@
 using namespace Qt::Literals::StringLiterals;
 
 /// What the screens show is told from its ground: text by 7:1, disabled text by 4.5:1, all else that has to
-/// be seen to use a control by 3:1. Edges of tiles and buttons are not measured: their text tells them.
+/// be seen to use a control by 3:1. By day the edges of tiles and buttons are not measured: a light tile, or a dark
+/// button, tells itself.
 class ContrastTest : public QObject {
     Q_OBJECT
 
@@ -146,6 +147,12 @@ void ContrastTest::controlsCanBeSeen_data() {
             QTest::addRow("%s, outline on %s", when, qPrintable(name))
                 << set << name << QPalette::PlaceholderText << name << QPalette::Window;
         }
+        for (const QString &name : {content, chrome}) {
+            QTest::addRow("%s, separator or frame on %s", when, qPrintable(name))
+                << set << name << QPalette::Dark << content << QPalette::Window;
+        }
+        QTest::addRow("%s, scroll mark of the lamps", when)
+            << set << chrome << QPalette::Midlight << chrome << QPalette::Base;
         QTest::addRow("%s, progress in its groove", when)
             << set << content << QPalette::Highlight << content << QPalette::Mid;
         QTest::addRow("%s, handle on the page", when)
@@ -154,6 +161,8 @@ void ContrastTest::controlsCanBeSeen_data() {
             << set << slider << QPalette::Button << slider << QPalette::Mid;
         QTest::addRow("%s, focus of a picture", when)
             << set << picture << QPalette::Mid << chrome << QPalette::Window;
+        QTest::addRow("%s, pressed picture on the column", when)
+            << set << picture << QPalette::Highlight << chrome << QPalette::Window;
         QTest::addRow("%s, pressed picture", when)
             << set << picture << QPalette::HighlightedText << picture << QPalette::Highlight;
         QTest::addRow("%s, focus of the battery", when)
@@ -161,6 +170,17 @@ void ContrastTest::controlsCanBeSeen_data() {
         QTest::addRow("%s, outline of the battery", when)
             << set << battery << QPalette::Button << chrome << QPalette::Window;
     }
+    for (const QString &name : {content, chrome}) {
+        for (const Role ground : {QPalette::Window, QPalette::Base}) {
+            QTest::addRow("night, edge of a control on %s of %s",
+                          ground == QPalette::Base ? "a tile" : "the ground", qPrintable(name))
+                << PaletteFactory::Night << name << QPalette::Midlight << name << ground;
+        }
+    }
+    QTest::addRow("night, separator on the column")
+        << PaletteFactory::Night << chrome << QPalette::Dark << chrome << QPalette::Window;
+    QTest::addRow("night, dimmed picture")
+        << PaletteFactory::Night << picture << QPalette::PlaceholderText << chrome << QPalette::Window;
 }
 
 void ContrastTest::controlsCanBeSeen() {
