@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "icontile.h"
 
+#include "darkpalette.h"
 #include "fittedtext.h"
 #include "presskeys.h"
 #include "tintedpicture.h"
@@ -17,11 +18,11 @@ constexpr int pictureLeft = 16;
 constexpr int textLeft = 72;
 constexpr int textRight = 12;
 constexpr int textTop = 6;
+constexpr int boxSize = 28;
+constexpr int gapBeforeBox = 8;
 constexpr qreal radius = 10;
-
-bool isDark(const QPalette &palette) {
-    return palette.color(QPalette::Base).lightness() < palette.color(QPalette::Text).lightness();
-}
+constexpr qreal pressedLineWidth = 2;
+constexpr qreal pressedInset = 4;
 
 } // namespace
 
@@ -39,34 +40,59 @@ QSize IconTile::minimumSizeHint() const {
     return {textLeft + 40, pictureSize};
 }
 
-QPixmap IconTile::picture(bool isPressed) const {
+QPixmap IconTile::picture(bool isLit) const {
     const QPixmap pixmap = icon().pixmap(QSize(pictureSize, pictureSize), devicePixelRatioF());
-    if (isPressed)
+    if (isLit)
         return tintedPicture(pixmap, palette().color(QPalette::HighlightedText));
     return isDark(palette()) ? tintedPicture(pixmap, palette().color(QPalette::Highlight)) : pixmap;
 }
 
 void IconTile::paintEvent(QPaintEvent *) {
-    const bool isPressed = isDown() || isChecked();
+    const bool isLit = isDown() || isChecked();
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(isPressed ? QPalette::Highlight : QPalette::Mid), 1));
-    painter.setBrush(isPressed ? palette().highlight() : palette().base());
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
-
-    painter.drawPixmap(pictureLeft, (height() - pictureSize) / 2, picture(isPressed));
-    painter.setPen(palette().color(isPressed ? QPalette::HighlightedText : QPalette::Text));
-    const QRect textRect = rect().adjusted(textLeft, textTop, -textRight, -textTop);
+    drawGround(painter, isLit);
+    painter.drawPixmap(pictureLeft, (height() - pictureSize) / 2, picture(isLit));
+    painter.setPen(palette().color(isLit ? QPalette::HighlightedText : QPalette::Text));
+    const QRect textRect = rect().adjusted(textLeft, textTop, -textMargin(), -textTop);
     FittedText::in(textRect.size(), text(), font(), FontSizes::Large)
         .draw(&painter, textRect, Qt::AlignVCenter | Qt::AlignLeft);
+    if (isCheckable())
+        drawBox(painter);
+    if (hasFocus())
+        drawFocusRing(painter, isLit);
+}
 
-    if (hasFocus()) {
-        QStyleOptionFocusRect focus;
-        focus.initFrom(this);
-        if (isPressed)
-            focus.state |= QStyle::State_On;
-        style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
-    }
+void IconTile::drawGround(QPainter &painter, bool isLit) const {
+    const QRectF ground(rect());
+    painter.setPen(QPen(palette().color(isLit ? QPalette::Highlight : QPalette::Midlight), 1));
+    painter.setBrush(isLit ? palette().highlight() : palette().base());
+    painter.drawRoundedRect(ground.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    if (!isDown())
+        return;
+    // A checked tile is lit already.
+    painter.setPen(QPen(palette().color(QPalette::HighlightedText), pressedLineWidth));
+    painter.drawRoundedRect(ground.adjusted(pressedInset, pressedInset, -pressedInset, -pressedInset),
+                            radius - pressedInset, radius - pressedInset);
+}
+
+int IconTile::textMargin() const {
+    return textRight + (isCheckable() ? boxSize + gapBeforeBox : 0);
+}
+
+void IconTile::drawBox(QPainter &painter) const {
+    QStyleOptionViewItem box;
+    box.initFrom(this);
+    box.rect = QRect(width() - textRight - boxSize, (height() - boxSize) / 2, boxSize, boxSize);
+    box.state.setFlag(isChecked() ? QStyle::State_On : QStyle::State_Off);
+    style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, &painter, this);
+}
+
+void IconTile::drawFocusRing(QPainter &painter, bool isLit) const {
+    QStyleOptionFocusRect focus;
+    focus.initFrom(this);
+    focus.state.setFlag(QStyle::State_On, isLit);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, this);
 }
 
 void IconTile::keyPressEvent(QKeyEvent *event) {

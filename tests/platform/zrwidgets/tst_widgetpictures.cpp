@@ -53,6 +53,8 @@ private slots:
     void widgetIsAsInTheReference();
     void nightIsNotDay_data();
     void nightIsNotDay();
+    void pressedIsNotChecked_data();
+    void pressedIsNotChecked();
     void lampsDifferWithoutTheirColours_data();
     void lampsDifferWithoutTheirColours();
 
@@ -146,6 +148,28 @@ void WidgetPicturesTest::nightIsNotDay() {
     const QImage night = pictureOf(widgetGallery()[index], PaletteFactory::Night);
     QCOMPARE(day.size(), night.size());
     QCOMPARE_GT(differenceBetween(day, night), toleratedDifference(day.size()));
+}
+
+void WidgetPicturesTest::pressedIsNotChecked_data() {
+    QTest::addColumn<PaletteFactory::Set>("set");
+    QTest::newRow("day") << PaletteFactory::Day;
+    QTest::newRow("night") << PaletteFactory::Night;
+}
+
+void WidgetPicturesTest::pressedIsNotChecked() {
+    QFETCH(PaletteFactory::Set, set);
+    const auto tileIn = [set](const QString &state) {
+        for (const ShownWidget &shown : widgetGallery()) {
+            if (shown.name == state)
+                return pictureOf(shown, set);
+        }
+        return QImage();
+    };
+    // None of them has the focus: its ring would be a difference by itself.
+    const QImage pressed = tileIn(u"tile-switch-pressed"_s);
+    const QImage checked = tileIn(u"tile-switch-checked"_s);
+    QCOMPARE(pressed.size(), QSize(220, 56));
+    QCOMPARE_GT(differenceBetween(pressed, checked), toleratedDifference(pressed.size()));
 }
 
 void WidgetPicturesTest::lampsDifferWithoutTheirColours_data() {

@@ -66,10 +66,16 @@ QWidget *narrowLamps() {
     return lamps({u"SIGNAL"_s, u"PATTERN"_s, u"Ошибка"_s, u"CODE"_s}, {60, 112});
 }
 
-QWidget *tile(const QString &title) {
+IconTile *tile(const QString &title) {
     auto *const button = new IconTile(linePicture(QColor(0x1f3a5f), 40), title);
+    sized(button, {220, 56});
+    return button;
+}
+
+QWidget *switchTile() {
+    IconTile *const button = tile(u"Аварии"_s);
     button->setCheckable(true);
-    return sized(button, {220, 56});
+    return button;
 }
 
 QWidget *slider(int position) {
@@ -126,6 +132,10 @@ void hold(QWidget *widget) {
     QTest::mousePress(widget, Qt::LeftButton);
 }
 
+void press(QWidget *widget) {
+    qobject_cast<QAbstractButton *>(widget)->setDown(true);
+}
+
 void check(QWidget *widget) {
     qobject_cast<QAbstractButton *>(widget)->setChecked(true);
 }
@@ -137,8 +147,8 @@ void focus(QWidget *widget) {
 } // namespace
 
 const QList<ShownWidget> &widgetGallery() {
-    const auto alarms = [] { return tile(u"Аварии"_s); };
-    const auto longName = [] { return tile(u"Анализатор ошибок цифрового потока"_s); };
+    const auto alarms = []() -> QWidget * { return tile(u"Аварии"_s); };
+    const auto longName = []() -> QWidget * { return tile(u"Анализатор ошибок цифрового потока"_s); };
     const auto checkButton = [] { return sized(new CheckButton(u"PCM"_s)); };
     const auto horizontal = [] { return sized(new PlainLine(PlainLine::Horizontal, 2), {80, 2}); };
     const auto vertical = [] { return sized(new PlainLine(PlainLine::Vertical, 2), {2, 48}); };
@@ -149,8 +159,11 @@ const QList<ShownWidget> &widgetGallery() {
         {u"lamps-twelve"_s, twelveLamps, {}, column},
         {u"lamps-narrow"_s, narrowLamps, {}, column},
         {u"tile"_s, alarms, {}, page},
-        {u"tile-pressed"_s, alarms, hold, page},
-        {u"tile-checked"_s, alarms, check, page},
+        {u"tile-pressed"_s, alarms, press, page},
+        {u"tile-focused"_s, alarms, focus, page},
+        {u"tile-switch"_s, switchTile, {}, page},
+        {u"tile-switch-pressed"_s, switchTile, press, page},
+        {u"tile-switch-checked"_s, switchTile, check, page},
         {u"tile-long-name"_s, longName, {}, page},
         {u"check-button"_s, checkButton, {}, page},
         {u"check-button-checked"_s, checkButton, check, page},
