@@ -3,6 +3,7 @@
 
 #include "controlfonts.h"
 #include "messageicon.h"
+#include "popupcorners.h"
 #include "shapes.h"
 #include "widgetkinds.h"
 
@@ -61,7 +62,9 @@ void StyleOverride::unpolish(QWidget *widget) {
 bool StyleOverride::eventFilter(QObject *object, QEvent *event) {
     if (event->type() == QEvent::ToolTip)
         return true;
-    if (event->type() == QEvent::Paint && WidgetKinds::isMessageWindow(object))
+    if (event->type() == QEvent::Show && WidgetKinds::isMenuOrList(object))
+        PopupCorners::take(static_cast<QWidget *>(object));
+    else if (event->type() == QEvent::Paint && WidgetKinds::isMessageWindow(object))
         drawWindowEdge(static_cast<QWidget *>(object));
     else if (event->type() == QEvent::DynamicPropertyChange &&
              static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName() == paletteProperty)

@@ -6,6 +6,7 @@
 #include "fieldstyle.h"
 #include "itemstyle.h"
 #include "menustyle.h"
+#include "popupcorners.h"
 #include "shapes.h"
 #include "styleoverride.h"
 #include "tabstyle.h"
@@ -23,9 +24,14 @@ void drawFocusRing(const QStyleOption &option, QPainter *painter) {
         Shapes::drawFocusRing(painter, option.rect, Shapes::inkOn(option, QPalette::Highlight));
 }
 
+void drawPopup(const QStyleOption &option, QPainter *painter, const QWidget *widget) {
+    PopupCorners::draw(widget, painter);
+    MenuStyle::drawPanel(option, painter);
+}
+
 void drawPanelFrame(const QStyleOption &option, QPainter *painter, const QWidget *widget) {
     if (WidgetKinds::isComboBoxPopup(widget)) {
-        MenuStyle::drawPanel(option, painter);
+        drawPopup(option, painter, widget);
     } else if (const auto *const area = qobject_cast<const QAbstractScrollArea *>(widget)) {
         FieldStyle::drawFrame(option, AreaGround::of(area), painter);
     } else {
@@ -84,7 +90,7 @@ void StyleOverride::drawPrimitive(PrimitiveElement element, const QStyleOption *
     case PE_FrameMenu:
         break;
     case PE_PanelMenu:
-        MenuStyle::drawPanel(*option, painter);
+        drawPopup(*option, painter, widget);
         break;
     case PE_PanelItemViewRow:
         if (const auto *const item = qstyleoption_cast<const QStyleOptionViewItem *>(option)) {

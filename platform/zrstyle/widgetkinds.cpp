@@ -3,12 +3,17 @@
 
 #include <QErrorMessage>
 #include <QInputDialog>
+#include <QMenu>
 #include <QMessageBox>
 #include <QProgressDialog>
 
-bool WidgetKinds::isComboBoxPopup(const QWidget *widget) {
+bool WidgetKinds::isComboBoxPopup(const QObject *widget) {
     // Its class has no name that others may use.
     return widget && widget->inherits("QComboBoxPrivateContainer");
+}
+
+bool WidgetKinds::isMenuOrList(const QObject *widget) {
+    return qobject_cast<const QMenu *>(widget) || isComboBoxPopup(widget);
 }
 
 bool WidgetKinds::isMessageWindow(const QObject *object) {

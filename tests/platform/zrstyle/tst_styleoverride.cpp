@@ -4,6 +4,7 @@
 #include <palettefactory.h>
 
 #include <QAbstractAnimation>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -24,6 +25,7 @@
 #include <QTimeEdit>
 #include <QToolButton>
 #include <QToolTip>
+#include <functional>
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
@@ -50,6 +52,8 @@ private slots:
     void stepsOfASpinBoxFitAThumb();
     void pressBesideTheHandleMovesTheSlider();
     void listOfAComboBoxFitsAThumb();
+    void cornersOfAPopupShowWhatLiesBelow_data();
+    void cornersOfAPopupShowWhatLiesBelow();
     void checkableGroupBoxIsCheckedByItsTitle();
     void thereAreNoToolTips();
     void nothingMovesByItself();
@@ -268,6 +272,55 @@ void StyleOverrideTest::listOfAComboBoxFitsAThumb() {
     QCOMPARE(picture.pixelColor(panel->width() / 2, 0), panel->palette().color(QPalette::PlaceholderText));
     QTest::mouseClick(box.view()->viewport(), Qt::LeftButton, {}, QPoint(20, 100));
     QCOMPARE(box.currentIndex(), 1);
+}
+
+void StyleOverrideTest::cornersOfAPopupShowWhatLiesBelow_data() {
+    QTest::addColumn<std::function<QWidget *(QWidget *)>>("open");
+    const std::function<QWidget *(QWidget *)> openMenu = [](QWidget *window) -> QWidget * {
+        auto *const menu = new QMenu(window);
+        menu->addAction(u"Copy"_s);
+        menu->popup(window->mapToGlobal(QPoint(20, 20)));
+        return menu;
+    };
+    const std::function<QWidget *(QWidget *)> openSubMenu = [openMenu](QWidget *window) -> QWidget * {
+        auto *const menu = qobject_cast<QMenu *>(openMenu(window));
+        QMenu *const more = menu->addMenu(u"More"_s);
+        more->addAction(u"Loop"_s);
+        more->popup(window->mapToGlobal(QPoint(20, 150)));
+        return more;
+    };
+    const std::function<QWidget *(QWidget *)> openList = [](QWidget *window) -> QWidget * {
+        auto *const box = new QComboBox(window);
+        box->addItems({u"E1"_s, u"E3"_s});
+        box->setGeometry(20, 20, 128, 52);
+        box->show();
+        box->showPopup();
+        return box->view()->parentWidget();
+    };
+    QTest::newRow("menu") << openMenu;
+    QTest::newRow("menu of a menu") << openSubMenu;
+    QTest::newRow("list of a combo box") << openList;
+}
+
+void StyleOverrideTest::cornersOfAPopupShowWhatLiesBelow() {
+    QFETCH(const std::function<QWidget *(QWidget *)>, open);
+    QWidget window;
+    QPalette dark;
+    dark.setColor(QPalette::Window, QColor(0x2D3B6F));
+    window.setPalette(dark);
+    window.resize(400, 300);
+    window.show();
+    window.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QWidget *const popup = open(&window);
+    QVERIFY(popup->isVisible());
+    popup->setPalette(PaletteFactory::getPalette(u"GenericWindow"_s));
+    const QImage picture = popup->grab().toImage();
+    const QRect all = picture.rect();
+    for (const QPoint corner : {all.topLeft(), all.topRight(), all.bottomLeft(), all.bottomRight()})
+        QCOMPARE(picture.pixelColor(corner), QColor(0x2D3B6F));
+    QCOMPARE(picture.pixelColor(all.center().x(), 4), popup->palette().color(QPalette::Base));
+    popup->hide();
 }
 
 void StyleOverrideTest::checkableGroupBoxIsCheckedByItsTitle() {
