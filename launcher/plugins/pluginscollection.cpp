@@ -88,17 +88,20 @@ void PluginsCollection::load() {
 
     Loaded loaded;
     for (const QString &name : names) {
-        if (groups.contains(name))
-            loadGroup(store, name, prefix, loaded);
-        else
+        if (!groups.contains(name))
             std::cerr << "Invalid configuration file: group '" << qPrintable(name) << "' is absent"
                       << std::endl;
+        else if (loadGroup(store, name, prefix, loaded))
+            continue;
+        // An empty name is two blanks or no list at all: nobody meant a plug-in.
+        if (!name.isEmpty())
+            ++failedCount;
     }
     resolveSettings(loaded);
     qDebug() << "all plugins loaded";
 }
 
-void PluginsCollection::loadGroup(QSettings &store, const QString &group, const QString &prefix,
+bool PluginsCollection::loadGroup(QSettings &store, const QString &group, const QString &prefix,
                                   Loaded &loaded) {
     store.beginGroup(group);
     const unsigned int version = store.value(u"ver"_s).toUInt();
@@ -108,17 +111,19 @@ void PluginsCollection::loadGroup(QSettings &store, const QString &group, const 
     const QString settingsText = ZrConfig::textOf(store.value(u"settings"_s));
     store.endGroup();
 
-    if (version == OldStyle) {
-        initPlugin(file, row, column);
-    } else if (version == Generic) {
-        if (GenericPlugin *const plugin = initPlugin2(file, row, column)) {
-            loaded.byGroup.insert(group, plugin);
-            loaded.settingsText.insert(plugin, settingsText);
-        }
-    } else {
-        // No line end: the next message goes on in this line.
-        std::cerr << "Unknown version" << version << "of plugin" << qPrintable(file) << std::flush;
+    if (version == OldStyle)
+        return initPlugin(file, row, column);
+    if (version == Generic) {
+        GenericPlugin *const plugin = initPlugin2(file, row, column);
+        if (!plugin)
+            return false;
+        loaded.byGroup.insert(group, plugin);
+        loaded.settingsText.insert(plugin, settingsText);
+        return true;
     }
+    // No line end: the next message goes on in this line.
+    std::cerr << "Unknown version" << version << "of plugin" << qPrintable(file) << std::flush;
+    return false;
 }
 
 void PluginsCollection::resolveSettings(const Loaded &loaded) {

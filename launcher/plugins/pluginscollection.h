@@ -40,6 +40,8 @@ public:
     /// Loads every plug-in that the configuration lists under this collection's name. To be called once, when
     /// the window has made the page.
     void load();
+    /// How many of the plug-ins that the configuration lists could not be loaded.
+    int failedPlugins() const { return failedCount; }
     /// Takes every widget out of the window and unmaps the libraries, in loading order.
     void unload();
 
@@ -68,7 +70,7 @@ private:
     T *load(const QString &file);
     template <typename T>
     bool place(T *plugin, const QString &file, int row, int col, IconNeed need);
-    void loadGroup(QSettings &store, const QString &group, const QString &prefix, Loaded &loaded);
+    bool loadGroup(QSettings &store, const QString &group, const QString &prefix, Loaded &loaded);
     void resolveSettings(const Loaded &loaded);
     void placeIcon(QWidget *icon, const QString &file, int row, int col);
     void placeStatusWidget(QWidget *status);
@@ -82,6 +84,7 @@ private:
     QList<QPluginLoader *> loaders;
     LauncherWindow *launcher;
     bool isPersistent;
+    int failedCount = 0;
     QMap<const GenericPlugin *, QList<GenericPlugin *>> settings;
     QHash<const QWidget *, QString> iconFiles;
 };

@@ -421,6 +421,14 @@ Tools</source>
         <source>They are listed in zr-launcher.conf, section [plugins], key &quot;%1&quot;.</source>
         <translation>Они перечисляются в файле zr-launcher.conf, раздел [plugins], ключ «%1».</translation>
     </message>
+    <message>
+        <source>Functions that could not be loaded: %1</source>
+        <translation>Не удалось загрузить функций: %1</translation>
+    </message>
+    <message>
+        <source>The launcher&apos;s log says why.</source>
+        <translation>Причины записаны в журнале программы.</translation>
+    </message>
 </context>
 <context>
     <name>LeftOutNote</name>

@@ -18,6 +18,8 @@ public:
 
     /// What stands on the page while it has no icon: a line, and another that says what to do about it.
     void setEmptyText(const QString &title, const QString &hint);
+    /// The line that says so.
+    QString emptyText() const { return emptyTitle; }
 
     QSize minimumSizeHint() const override;
 

@@ -65,6 +65,12 @@ void tellPlacement(const PluginsCollection *collection, const QWidget *icon,
                   << std::endl;
 }
 
+/// What a page says that stays empty although there are plug-ins for it.
+void sayWhatFailed(IconPage *page, int failedPlugins) {
+    page->setEmptyText(LauncherWindow::tr("Functions that could not be loaded: %1").arg(failedPlugins),
+                       LauncherWindow::tr("The launcher's log says why."));
+}
+
 /// What an empty page says.
 void sayWhatToDo(IconPage *page, const QString &collection) {
     if (collection.isEmpty())
@@ -174,17 +180,20 @@ QString LauncherWindow::cardType(PluginsCollection *collection) {
 }
 
 void LauncherWindow::newCollectionPage(PluginsCollection *collection) {
-    collectionPages[collection] = makePage(collection);
+    IconPage *const page = makePage(collection);
+    collectionPages[collection] = page;
     addSelectorButton(collection);
     addInfoPanel(collection);
     collection->load();
+    if (collection->failedPlugins() > 0)
+        sayWhatFailed(page, collection->failedPlugins());
     if (!cardInsertPersist()) {
         checkSelectorButton(collection);
         switchMeasPage(collection);
     }
 }
 
-QWidget *LauncherWindow::makePage(const PluginsCollection *collection) {
+IconPage *LauncherWindow::makePage(const PluginsCollection *collection) {
     auto *const page = new IconPage;
     IconGrid::initGrid(qobject_cast<QGridLayout *>(page->layout()), this);
     sayWhatToDo(page, collection->name());

@@ -13,6 +13,7 @@ class AppPopups;
 class CardsManager;
 class ControlBottomPanel;
 class GenericPlugin;
+class IconPage;
 class LauncherHeader;
 class LauncherPlugin;
 class MeasCard;
@@ -108,7 +109,7 @@ private:
     void initPageLauncher();
     void initCollectionLabels();
 
-    QWidget *makePage(const PluginsCollection *collection);
+    IconPage *makePage(const PluginsCollection *collection);
     void addSelectorButton(PluginsCollection *collection);
     void addInfoPanel(PluginsCollection *collection);
     void rmCollectionPage(PluginsCollection *collection);

@@ -4,6 +4,7 @@
 #include "debuglines.h"
 #include "errorstream.h"
 #include "launcherfixture.h"
+#include "ui/iconpage.h"
 
 #include <genericplugin.h>
 #include <statuspanel.h>
@@ -25,6 +26,10 @@ private slots:
     void absentGroupIsTold();
     void unknownVersionRunsIntoTheNextMessage();
     void absentVersionIsUnknown();
+    void failuresAreCounted_data();
+    void failuresAreCounted();
+    void pageThatStaysEmptySaysHowManyFailed_data();
+    void pageThatStaysEmptySaysHowManyFailed();
     void pluginsAreLoadedInTheOrderOfTheList();
     void debugLinesTellEveryLoad();
     void iconAndStatusWidgetArePlaced();
@@ -120,6 +125,52 @@ void PluginsCollectionTest::absentVersionIsUnknown() {
     ErrorStream errors;
     PluginsCollection(u"e1"_s, false).load();
     QCOMPARE(errors.take(), "Unknown version0of plugin/libalpha.so"_ba);
+}
+
+void PluginsCollectionTest::failuresAreCounted_data() {
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<int>("failures");
+    QTest::newRow("nothing is listed") << QString() << 0;
+    QTest::newRow("empty names name nothing") << u" alpha  "_s << 0;
+    QTest::newRow("all can be loaded") << u"alpha old nowidgets"_s << 0;
+    QTest::newRow("libraries are missing") << u"nofile alpha oldnofile"_s << 2;
+    QTest::newRow("old style without icon") << u"oldwithouticon"_s << 1;
+}
+
+void PluginsCollectionTest::failuresAreCounted() {
+    QFETCH(const QString, list);
+    configureE1(list.split(u' ', Qt::SkipEmptyParts));
+    config.setCollection(u"e1"_s, list);
+    const ErrorStream errors;
+    const auto collection = loaded();
+    QTEST(collection->failedPlugins(), "failures");
+    window->rmCollectionPages({collection.get()});
+}
+
+void PluginsCollectionTest::pageThatStaysEmptySaysHowManyFailed_data() {
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("text");
+    const QString failed = u"Functions that could not be loaded: %1"_s;
+    QTest::newRow("nothing is listed") << QString() << u"No functions are configured for this card"_s;
+    QTest::newRow("groups are absent") << u"ghost ghoul"_s << failed.arg(2);
+    QTest::newRow("version is unknown") << u"strange"_s << failed.arg(1);
+    QTest::newRow("library is missing") << u"missing"_s << failed.arg(1);
+}
+
+void PluginsCollectionTest::pageThatStaysEmptySaysHowManyFailed() {
+    QFETCH(const QString, list);
+    config.setPath(u"/nowhere"_s);
+    config.setCollection(u"e1"_s, list);
+    config.addPlugin(u"strange"_s, {.version = 7, .file = u"libstrange.so"_s});
+    config.addPlugin(u"missing"_s, {.file = u"libmissing.so"_s});
+    const ErrorStream errors;
+    const auto collection = loaded();
+    QStringList texts;
+    for (const IconPage *const page : window->findChildren<IconPage *>())
+        texts.append(page->emptyText());
+    QFETCH(const QString, text);
+    QVERIFY2(texts.contains(text), qPrintable(texts.join(u", "_s)));
+    window->rmCollectionPages({collection.get()});
 }
 
 void PluginsCollectionTest::pluginsAreLoadedInTheOrderOfTheList() {
