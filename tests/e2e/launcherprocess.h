@@ -36,6 +36,7 @@ public:
     QByteArray errors();
 
     bool press(const QString &nameOrText) { return ask<bool>("press", {nameOrText}); }
+    bool pressWithKey(const QString &nameOrText) { return ask<bool>("pressWithKey", {nameOrText}); }
     /// For a press that may end the launcher before it answers.
     void pressWithoutAnswer(const QString &nameOrText) {
         probe->call(QDBus::NoBlock, QStringLiteral("press"), nameOrText);

@@ -6,6 +6,9 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,6 +28,18 @@ void write(const QString &file, const QByteArray &text) {
     QFile written(file);
     if (written.open(QIODevice::WriteOnly))
         written.write(text);
+}
+
+/// What the start wrapper knows of a plug-in that has crashed three times.
+void leaveOut(const QString &library) {
+    const QString directory = qEnvironmentVariable("XDG_RUNTIME_DIR") + "/zr-launcher"_L1;
+    QDir().mkpath(directory);
+    const QJsonObject plugin{{u"library"_s, library},
+                             {u"crashes"_s, 3},
+                             {u"trace"_s, u"[bt]: (2) /usr/lib/libreflectometer.so(_Z4drawv+0x1c) draw()"_s}};
+    const QJsonObject state{
+        {u"failedRuns"_s, 0}, {u"crashes"_s, QJsonArray()}, {u"leftOut"_s, QJsonArray{plugin}}};
+    write(directory + "/crashes.json"_L1, QJsonDocument(state).toJson());
 }
 
 void simulate(const QString &words) {
@@ -55,6 +70,7 @@ void ClippedTextsTest::init() {
     config = TestConfig();
     QVERIFY(QDir().mkpath(qEnvironmentVariable("ZR_SYSROOT") + "/var/run/tester"_L1));
     const QString reports = QDir::homePath() + "/reports"_L1;
+    QDir(reports).removeRecursively();
     QVERIFY(QDir().mkpath(reports));
     write(reports + "/e1-line-3.txt"_L1, "E1 line 3, 120 ohm\nBit errors        3\n");
     QImage picture(640, 320, QImage::Format_RGB32);
@@ -89,7 +105,7 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     QFETCH(int, height);
     const Words &words = isRussian ? russian : english;
     const QString back = u"◄ "_s + words.settings;
-    configure(u"system network reports sound night refresh"_s);
+    configure(u"system network reports sound night refresh reflectometer"_s);
     config.set(u"paths/main"_s, u"reports"_s);
     const QString plugins = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR "/zr-launcher/plugins/");
     config.addPlugin(u"system"_s, {.file = plugins + "libsystem.so"_L1, .settings = u"refresh"_s});
@@ -99,11 +115,15 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     config.addPlugin(u"night"_s, {.row = 3, .column = 2, .file = plugins + "libnight.so"_L1});
     config.addPlugin(u"refresh"_s, {.file = plugins + "librefresh.so"_L1});
 
+    const QString crashing = u"/nowhere/libreflectometer.so"_s;
+    config.addPlugin(u"reflectometer"_s, {.row = 3, .file = crashing});
+    leaveOut(crashing);
+
     LauncherProcess launcher;
     launcher.setScreenHeight(height);
-    if (!isRussian)
-        launcher.program = QStringLiteral(E2E_ENGLISH_LAUNCHER);
-    QVERIFY2(launcher.start(), launcher.errors());
+    const QString program = isRussian ? launcher.program : QStringLiteral(E2E_ENGLISH_LAUNCHER);
+    launcher.program = QStringLiteral(E2E_TREE "/bin/zr-start");
+    QVERIFY2(launcher.start({program}), launcher.errors());
     QCOMPARE(launcher.windowSize().last(), QString::number(height));
 
     QStringList clipped;
@@ -121,6 +141,10 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     pressAndLook(u"labelBattery"_s);
     launcher.closePopup();
     pressAndLook(words.sound);
+    launcher.closePopup();
+    QVERIFY(launcher.pressWithKey(words.sound));
+    QCOMPARE(launcher.shownPopup(), u"VolumePanel"_s);
+    look(u"volume panel opened by a key"_s);
     launcher.closePopup();
     pressAndLook(u"labelInfo"_s);
     launcher.press(u"labelInfo"_s);
@@ -160,6 +184,11 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     launcher.press(words.ok);
     launcher.press(words.no);
     simulate(u"flash remove"_s);
+
+    launcher.press(words.settings);
+    pressAndLook(u"iconNotice"_s);
+    QCOMPARE(launcher.shownPage(), u"NoticeWindow"_s);
+    pressAndLook(u"buttonSave"_s);
     QVERIFY2(clipped.isEmpty(), qPrintable(clipped.join(u'\n')));
 }
 

@@ -10,6 +10,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -162,6 +163,18 @@ bool Probe::press(const QString &nameOrText) const {
     if (!widget)
         return false;
     pressAt(widget, QRectF(widget->rect()).center());
+    return true;
+}
+
+bool Probe::pressWithKey(const QString &nameOrText) const {
+    QWidget *const widget = named(nameOrText);
+    if (!widget)
+        return false;
+    widget->setFocus(Qt::TabFocusReason);
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
     return true;
 }
 

@@ -37,6 +37,8 @@ public slots:
     bool isVisible(const QString &name) const;
     /// Presses and lets go in the middle of the visible widget of that object name or that text.
     bool press(const QString &nameOrText) const;
+    /// The same with the key Enter, after the focus has gone there.
+    bool pressWithKey(const QString &nameOrText) const;
     /// Presses a row of the visible list or table.
     bool pressRow(int row) const;
     void goHome() const;
