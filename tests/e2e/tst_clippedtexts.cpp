@@ -116,7 +116,7 @@ void ClippedTextsTest::everyTextIsShownWhole() {
     config.addPlugin(u"refresh"_s, {.file = plugins + "librefresh.so"_L1});
 
     const QString crashing = u"/nowhere/libreflectometer.so"_s;
-    config.addPlugin(u"reflectometer"_s, {.row = 3, .file = crashing});
+    config.addPlugin(u"reflectometer"_s, {.row = 4, .file = crashing});
     leaveOut(crashing);
 
     LauncherProcess launcher;
