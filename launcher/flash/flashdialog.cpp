@@ -55,6 +55,8 @@ void FlashDialog::setupFrame() {
     contentFrame->setStyleSheet(
         u" QFrame { border-radius: 10px; border: 2px solid rgba( 45, 59, 111, 255 );background-color: rgba( 235, 233, 255, 255 );font: inherit;font-size: inherit;}"_s);
     progressFrame->setStyleSheet(u" QFrame { border: 0px; }"_s);
+    // A label is a frame, too: a second border inside the first would crowd its text.
+    question->setStyleSheet(u"QLabel { border: 0px; }"_s);
     // The sheet's ground is light by night too, and what a sheet covers takes no palette from its parent.
     for (QWidget *const child : contentFrame->findChildren<QWidget *>())
         child->setPalette(PaletteFactory::getPalette(u"Paper"_s));

@@ -35,5 +35,6 @@ QPalette chromePalette(PaletteFactory::Set set) {
     palette.setColor(QPalette::Disabled, QPalette::Text, soft);
     palette.setColor(QPalette::Disabled, QPalette::Button, sunk);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, soft);
+    palette.setColor(QPalette::Disabled, QPalette::Midlight, groove);
     return palette;
 }

@@ -49,5 +49,6 @@ QPalette genericWindowPalette(PaletteFactory::Set set) {
     palette.setColor(QPalette::Disabled, QPalette::Text, softInk);
     palette.setColor(QPalette::Disabled, QPalette::Button, disabledButton);
     palette.setColor(QPalette::Disabled, QPalette::ButtonText, softInk);
+    palette.setColor(QPalette::Disabled, QPalette::Midlight, groove);
     return palette;
 }

@@ -19,8 +19,9 @@
 ///
 /// In every palette: Window/WindowText is the ground and text on it; Base/Text tiles, lists and text on them;
 /// Button/ButtonText buttons; Highlight/HighlightedText what is checked or pressed, and the focus ring; Mid
-/// grooves, and 1-pixel edges of what its text or picture tells; Dark separating lines; PlaceholderText
-/// softer text, and outlines of what nothing else tells (fields, boxes). Any thread.
+/// grooves, and 1-pixel lines between rows; Midlight edges of what its text or picture tells; Dark separating lines,
+/// and frames of dialogs and panels; PlaceholderText softer text, and outlines of what nothing else tells (fields,
+/// boxes). Any thread.
 class PaletteFactory {
 public:
     enum Set { Day, Night };

@@ -33,7 +33,6 @@ QPlainTextEdit *makeTraceView(const QString &trace) {
     QFont font(u"Liberation Mono"_s);
     font.setStyleHint(QFont::Monospace);
     auto *const view = new QPlainTextEdit(trace);
-    view->setFrameShape(QFrame::NoFrame);
     view->setReadOnly(true);
     view->setTextInteractionFlags(Qt::NoTextInteraction);
     view->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -117,7 +117,7 @@ void QuestionPanel::paintEvent(QPaintEvent *) {
     shade.setAlpha(dimming);
     painter.fillRect(rect(), shade);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(palette().color(QPalette::Active, QPalette::Button), 2));
+    painter.setPen(QPen(palette().color(QPalette::Dark), 2));
     painter.setBrush(palette().window());
     painter.drawRoundedRect(QRectF(box->geometry()).adjusted(1, 1, -1, -1), radius, radius);
 }
