@@ -98,14 +98,20 @@ bool storeChanges(const QString &name, const StoreChanges &changes) {
     if (!lock.tryLock(5s))
         return false;
 
+    const Values stored = valuesIn(file);
+    Values values = stored;
+    apply(changes, values);
+    // Every start clears what is clear already; a rewrite would only wear the memory. Who wrote it may not have
+    // flushed it.
+    if (info.exists() && values == stored)
+        return flushToDisk(file);
+
     QDir workplace(file + ".writing"_L1);
     workplace.removeRecursively();
     if (!workplace.mkpath(u"."_s))
         return false;
-    Values values = valuesIn(file);
-    apply(changes, values);
     const QString newFile = writtenInFull(workplace, values);
-    const bool stored = !newFile.isEmpty() && putInPlace(newFile, file);
+    const bool isStored = !newFile.isEmpty() && putInPlace(newFile, file);
     workplace.removeRecursively();
-    return stored;
+    return isStored;
 }

@@ -71,6 +71,8 @@ private slots:
     void damagedFileIsKeptAsideAndTheDefaultsHold();
     void otherValuesSurviveAWrite();
     void twoWritesInOneMillisecondAreBothSeen();
+    void valueThatIsThereAlreadyLeavesTheFileAlone();
+    void absentValueIsStoredAlsoWhenItIsEmpty();
     void fullDiskIsToldAndLosesNothing();
     void readOnlyDirectoryIsToldAndLosesNothing();
     void unreadableFileIsToldAndLosesNothing();
@@ -189,6 +191,21 @@ void ZrConfigTest::twoWritesInOneMillisecondAreBothSeen() {
         ZrConfig(application, u"flash"_s, u"dir"_s) = i;
         QCOMPARE(ZrConfig(application, u"flash"_s, u"dir"_s).string(), QString::number(i));
     }
+}
+
+void ZrConfigTest::valueThatIsThereAlreadyLeavesTheFileAlone() {
+    write(storeFile(), "# by hand\n[flash]\nsave=false\n");
+    const QByteArray before = read(storeFile());
+    ZrConfig(application, u"flash"_s, u"save"_s) = false;
+    QCOMPARE(read(storeFile()), before);
+    ZrConfig(application, u"flash"_s, u"save"_s) = true;
+    QVERIFY(read(storeFile()).contains("save=true"));
+}
+
+void ZrConfigTest::absentValueIsStoredAlsoWhenItIsEmpty() {
+    write(storeFile(), "[flash]\nsave=false\n");
+    ZrConfig(application, u"flash"_s, u"dir"_s) = QString();
+    QVERIFY(read(storeFile()).contains("dir="));
 }
 
 void ZrConfigTest::fullDiskIsToldAndLosesNothing() {
