@@ -49,7 +49,8 @@ QSize ControlBottomPanel::minimumSizeHint() const {
 
 bool ControlBottomPanel::event(QEvent *event) {
     const bool isHandled = QWidget::event(event);
-    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize) {
+    if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Resize ||
+        event->type() == QEvent::Show) {
         scroll->setNeededLength(rowLayout->minimumSize().width());
         showChecked();
     }
@@ -57,6 +58,9 @@ bool ControlBottomPanel::event(QEvent *event) {
 }
 
 void ControlBottomPanel::showChecked() {
+    // Laying out for each page that is added before anybody looks would cost more than the page.
+    if (!isVisible())
+        return;
     for (const QAbstractButton *const button : findChildren<QAbstractButton *>(Qt::FindDirectChildrenOnly)) {
         if (button->isChecked())
             scroll->showWhole(button);

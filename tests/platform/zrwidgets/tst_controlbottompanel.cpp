@@ -33,6 +33,7 @@ private slots:
     void sevenLongLabelsDoNotWidenTheRow();
     void moreThanFitAreReachedByAThumb();
     void checkedButtonComesIntoView();
+    void buttonCheckedWhileHiddenIsInViewWhenShown();
 };
 
 void ControlBottomPanelTest::positionOneIsTheRightEnd() {
@@ -104,6 +105,15 @@ void ControlBottomPanelTest::checkedButtonComesIntoView() {
     QVERIFY(buttons.at(15)->geometry().right() < row.width());
     buttons.at(0)->setChecked(true);
     QVERIFY(buttons.at(0)->x() >= 0);
+}
+
+void ControlBottomPanelTest::buttonCheckedWhileHiddenIsInViewWhenShown() {
+    ControlBottomPanel row;
+    const QList<CheckButton *> buttons = fill(row, 20);
+    row.hide();
+    buttons.at(15)->setChecked(true);
+    row.show();
+    QVERIFY(buttons.at(15)->geometry().right() < row.width());
 }
 
 QTEST_MAIN(ControlBottomPanelTest)
