@@ -3,6 +3,7 @@
 
 #include "power/mixerlisting.h"
 
+#include <pngpicture.h>
 #include <roundslider.h>
 #include <tintedpicture.h>
 
@@ -69,8 +70,8 @@ QLabel *VolumePanel::makeIcon() {
 
 void VolumePanel::tintIcons() {
     const QColor ink = palette().color(QPalette::WindowText);
-    speakerIcon->setPixmap(tintedPicture(QPixmap(u":/main/resources/speaker_black.png"_s), ink));
-    microphoneIcon->setPixmap(tintedPicture(QPixmap(u":/main/resources/microphone_black.png"_s), ink));
+    speakerIcon->setPixmap(tintedPicture(pngPicture(u":/main/resources/speaker_black.png"_s), ink));
+    microphoneIcon->setPixmap(tintedPicture(pngPicture(u":/main/resources/microphone_black.png"_s), ink));
 }
 
 void VolumePanel::changeEvent(QEvent *event) {

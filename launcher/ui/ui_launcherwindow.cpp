@@ -4,6 +4,7 @@
 #include "power/batteryindicator.h"
 
 #include <ledpanel.h>
+#include <pngpicture.h>
 #include <popuplabel.h>
 #include <pressinglabel.h>
 
@@ -88,7 +89,7 @@ void Ui_LauncherWindow::setupLeftColumn(QWidget *window) {
 
     labelReport = named(new PopupLabel(window, nullptr), u"labelReport"_s);
     labelReport->setEnabled(true);
-    labelReport->setPixmap(QPixmap(u":/main/resources/saverpt.png"_s));
+    labelReport->setPixmap(pngPicture(u":/main/resources/saverpt.png"_s));
     labelReport->setAlignment(Qt::AlignCenter);
     labelReport->setMargin(0);
     labelReport->setIndent(0);
@@ -98,7 +99,7 @@ void Ui_LauncherWindow::setupLeftColumn(QWidget *window) {
     labelSettings->setEnabled(true);
     labelSettings->setMinimumSize(0, 0);
     labelSettings->setText(QString());
-    labelSettings->setPixmap(QPixmap(u":/main/resources/settings.png"_s));
+    labelSettings->setPixmap(pngPicture(u":/main/resources/settings.png"_s));
     labelSettings->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     labelSettings->setMargin(2);
     labelSettings->setIndent(0);
@@ -106,7 +107,7 @@ void Ui_LauncherWindow::setupLeftColumn(QWidget *window) {
 
     labelInfo = named(new PressingLabel(window, false), u"labelInfo"_s);
     labelInfo->setMinimumSize(0, 0);
-    labelInfo->setPixmap(QPixmap(u":/main/resources/status.png"_s));
+    labelInfo->setPixmap(pngPicture(u":/main/resources/status.png"_s));
     labelInfo->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     labelInfo->setMargin(2);
     labelInfo->setIndent(0);

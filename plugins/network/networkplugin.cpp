@@ -7,6 +7,7 @@
 
 #include <hostsource.h>
 #include <icontile.h>
+#include <pngpicture.h>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -30,7 +31,7 @@ QWidget *NetworkPlugin::createWindow() {
 
 QWidget *NetworkPlugin::iconWidget() {
     if (!icon) {
-        auto *const tile = own(new IconTile(QIcon(u":/network/network.png"_s), tr("Network")));
+        auto *const tile = own(new IconTile(pngPicture(u":/network/network.png"_s), tr("Network")));
         tile->setProperty("rows", iconRows);
         connect(tile, &IconTile::clicked, this, &NetworkPlugin::showWindow);
         icon = tile;

@@ -2,6 +2,7 @@
 #include "nightplugin.h"
 
 #include <icontile.h>
+#include <pngpicture.h>
 #include <ui/colourchoice.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -12,7 +13,7 @@ NightPlugin::NightPlugin() {
 
 QWidget *NightPlugin::iconWidget() {
     if (!icon) {
-        icon = own(new IconTile(QIcon(u":/night/night.png"_s), tr("Night colours")));
+        icon = own(new IconTile(pngPicture(u":/night/night.png"_s), tr("Night colours")));
         icon->setCheckable(true);
         icon->setChecked(PaletteFactory::set() == PaletteFactory::Night);
         connect(icon, &IconTile::clicked, this, &NightPlugin::showWindow);

@@ -4,12 +4,14 @@
 #include "reportswindow.h"
 
 #include <icontile.h>
+#include <pngpicture.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 QWidget *ReportsPlugin::iconWidget() {
     if (!icon) {
-        auto *const tile = ownedWidgets.add(new IconTile(QIcon(u":/reports/reports.png"_s), tr("Reports")));
+        auto *const tile =
+            ownedWidgets.add(new IconTile(pngPicture(u":/reports/reports.png"_s), tr("Reports")));
         connect(tile, &IconTile::clicked, this, &ReportsPlugin::showWindow);
         icon = tile;
     }

@@ -2,6 +2,7 @@
 #include "soundplugin.h"
 
 #include <icontile.h>
+#include <pngpicture.h>
 #include <power/volumepanel.h>
 #include <ui/launcherwindow.h>
 
@@ -13,7 +14,7 @@ SoundPlugin::SoundPlugin() {
 
 QWidget *SoundPlugin::iconWidget() {
     if (!icon) {
-        auto *const tile = own(new IconTile(QIcon(u":/sound/sound.png"_s), tr("Sound")));
+        auto *const tile = own(new IconTile(pngPicture(u":/sound/sound.png"_s), tr("Sound")));
         connect(tile, &IconTile::clicked, this, &SoundPlugin::showWindow);
         icon = tile;
     }

@@ -9,6 +9,7 @@
 #include <buildinfo.h>
 #include <hostsource.h>
 #include <icontile.h>
+#include <pngpicture.h>
 
 #include <QDir>
 
@@ -32,7 +33,7 @@ QWidget *SystemPlugin::createWindow() {
 
 QWidget *SystemPlugin::iconWidget() {
     if (!icon) {
-        auto *const tile = own(new IconTile(QIcon(u":/system/system.png"_s), tr("System")));
+        auto *const tile = own(new IconTile(pngPicture(u":/system/system.png"_s), tr("System")));
         connect(tile, &IconTile::clicked, this, &SystemPlugin::showWindow);
         icon = tile;
     }
