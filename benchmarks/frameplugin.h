@@ -5,11 +5,16 @@
 
 #include <genericplugin.h>
 
-/// Brings the watcher of the first frame into the launcher's process.
+#include <optional>
+
+/// Brings the watcher of the first frame into the launcher's process, when ZR_BENCH_START_NS asks for it.
 class FramePlugin : public GenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID GenericPlugin_iid)
 
+public:
+    FramePlugin();
+
 private:
-    FirstFrame firstFrame;
+    std::optional<FirstFrame> firstFrame;
 };

@@ -3,6 +3,7 @@
 // costs:  measure-rest [SECONDS]
 #include "power/apmreaderthread.h"
 #include "power/batteryindicator.h"
+#include "tablerow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -42,10 +43,23 @@ Use useOf(qint64 process) {
     return use;
 }
 
-void printRest(const char *name, const Use &before, const Use &after, int seconds) {
-    std::printf("%-8s  %6lld wake-ups a minute  %8.3f ms of processor time a minute\n", name,
-                static_cast<long long>((after.wakeUps - before.wakeUps) * 60 / seconds),
-                double(after.processorNs - before.processorNs) * 60 / seconds / 1e6);
+/// What the battery is read for, every two seconds, and the clock, every minute.
+constexpr double wakeUpsAMinute = 30 + 1;
+
+struct Rate {
+    double wakeUps = 0;
+    double processorMs = 0;
+};
+
+Rate rateOf(const Use &before, const Use &after, int seconds) {
+    return {double(after.wakeUps - before.wakeUps) * 60 / seconds,
+            double(after.processorNs - before.processorNs) * 60 / seconds / 1e6};
+}
+
+void printRest(const Rate &launcher, const Rate &floor) {
+    printTableRow(u"wake-ups a minute at rest"_s, launcher.wakeUps, floor.wakeUps,
+                  u"floor + %1"_s.arg(wakeUpsAMinute), floor.wakeUps + wakeUpsAMinute);
+    printTableRow(u"processor time a minute at rest, ms"_s, launcher.processorMs, floor.processorMs);
 }
 
 void measureRest(const QTemporaryDir &place, int seconds) {
@@ -64,8 +78,8 @@ void measureRest(const QTemporaryDir &place, int seconds) {
     const Use launcherBefore = useOf(launcher.processId());
     const Use floorBefore = useOf(floor.processId());
     QThread::sleep(static_cast<unsigned long>(seconds));
-    printRest("launcher", launcherBefore, useOf(launcher.processId()), seconds);
-    printRest("floor", floorBefore, useOf(floor.processId()), seconds);
+    printRest(rateOf(launcherBefore, useOf(launcher.processId()), seconds),
+              rateOf(floorBefore, useOf(floor.processId()), seconds));
     for (QProcess *const process : {&launcher, &floor}) {
         process->kill();
         process->waitForFinished();

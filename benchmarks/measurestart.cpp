@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Start of the launcher against the floor, in turn: time from exec to the first frame, resident and proportional
-// memory then. Prints a table of medians.
+// memory then. Prints rows of medians.
 //
 //   measure-start [RUNS]
-#include <QDir>
-#include <QFile>
+#include "instrument.h"
+#include "tablerow.h"
+
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTextStream>
 
 #include <algorithm>
 #include <ctime>
@@ -16,7 +15,10 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int iconsPerPage = 10;
+constexpr double aimOfTime = 1.3;
+constexpr double aimOfMemory = 1.25;
+/// More are measured too, to see how the figures grow.
+constexpr int mostWithAim = 70;
 
 struct Sample {
     double milliseconds = 0;
@@ -29,55 +31,6 @@ qint64 monotonicNs() {
     ::clock_gettime(CLOCK_MONOTONIC, &now);
     return qint64(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
 }
-
-/// A home with as many plug-ins as wanted, each a library file of its own, ten a page.
-class Instrument {
-public:
-    explicit Instrument(int plugins) {
-        QDir(home.path()).mkpath(u"talvenor"_s);
-        QFile::copy(QStringLiteral(FRAME_PLUGIN), home.filePath(u"libframe.so"_s));
-        QStringList pages;
-        QString groups = u"[frame]\nver=2\nname=libframe.so\n"_s;
-        QString lists;
-        for (int first = 0; first < plugins; first += iconsPerPage) {
-            const QString page = first == 0 ? u"zr"_s : u"page%1"_s.arg(first / iconsPerPage);
-            QStringList names{first == 0 ? u"frame"_s : QString()};
-            names.removeAll(QString());
-            for (int i = first; i < qMin(plugins, first + iconsPerPage); ++i) {
-                names.append(u"tile%1"_s.arg(i));
-                groups += pluginGroup(i, i - first);
-            }
-            pages.append(page);
-            lists += page + u'=' + names.join(u' ') + u'\n';
-        }
-        QFile store(home.filePath(u"talvenor/zr-launcher.conf"_s));
-        if (store.open(QIODevice::WriteOnly))
-            QTextStream(&store) << "[plugins]\npath=" << home.path() << "\npersistent=" << pages.join(u' ')
-                                << '\n'
-                                << lists << groups;
-    }
-
-    QProcessEnvironment environment() const {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
-        environment.insert(u"XDG_CONFIG_DIRS"_s, home.filePath(u"none"_s));
-        environment.insert(u"ZR_SYSROOT"_s, home.path());
-        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        return environment;
-    }
-
-private:
-    QString pluginGroup(int number, int cell) const {
-        const QString file = u"libtile%1.so"_s.arg(number);
-        QFile::copy(QStringLiteral(TILE_PLUGIN), home.filePath(file));
-        return u"[tile%1]\nver=2\nrow=%2\ncol=%3\nname=%4\n"_s.arg(number)
-            .arg(cell / 2 + 1)
-            .arg(cell % 2 + 1)
-            .arg(file);
-    }
-
-    QTemporaryDir home;
-};
 
 Sample run(const QString &program, const QStringList &arguments, QProcessEnvironment environment) {
     QProcess process;
@@ -99,31 +52,34 @@ double median(const QList<Sample> &samples, double Sample::*figure) {
     return values[values.size() / 2];
 }
 
-void printRow(QTextStream &out, int plugins, const char *what, const QList<Sample> &launcher,
-              const QList<Sample> &floor, double Sample::*figure) {
+void printRow(const QString &what, const QList<Sample> &launcher, const QList<Sample> &floor,
+              double Sample::*figure, double aim) {
     const double ours = median(launcher, figure);
     const double least = median(floor, figure);
-    out << QString::asprintf("| %3d | %-21s | %8.1f | %8.1f | %5.2f |\n", plugins, what, ours, least,
-                             ours / least);
+    if (aim > 0)
+        printTableRow(what, ours, least, u"%1 × floor"_s.arg(aim, 0, 'f', 2), aim * least);
+    else
+        printTableRow(what, ours, least);
 }
 
 } // namespace
 
 int main(int argc, char *argv[]) {
     const int runs = argc > 1 ? QByteArray(argv[1]).toInt() : 15;
-    QTextStream out(stdout);
-    out << "| plug-ins | figure | launcher | floor | ratio |\n|---|---|---|---|---|\n";
-    for (const int plugins : {1, 10, 70, 200}) {
+    for (const int plugins : {0, 10, 70, 200}) {
         const Instrument instrument(plugins);
         QList<Sample> launcher;
         QList<Sample> floor;
         for (int i = 0; i < runs; ++i) {
             launcher.append(run(QStringLiteral(LAUNCHER), {}, instrument.environment()));
-            floor.append(run(QStringLiteral(FLOOR), {QString::number(plugins)}, instrument.environment()));
+            floor.append(run(QStringLiteral(FLOOR), {QString::number(plugins), instrument.path()},
+                             instrument.environment()));
         }
-        printRow(out, plugins, "first frame, ms", launcher, floor, &Sample::milliseconds);
-        printRow(out, plugins, "resident, MiB", launcher, floor, &Sample::residentMb);
-        printRow(out, plugins, "proportional, MiB", launcher, floor, &Sample::proportionalMb);
-        out.flush();
+        const bool hasAim = plugins <= mostWithAim;
+        const QString with = u", %1 plug-ins"_s.arg(plugins);
+        printRow(u"first frame, ms"_s + with, launcher, floor, &Sample::milliseconds, hasAim ? aimOfTime : 0);
+        printRow(u"resident memory, MiB"_s + with, launcher, floor, &Sample::residentMb,
+                 hasAim ? aimOfMemory : 0);
+        printRow(u"proportional memory, MiB"_s + with, launcher, floor, &Sample::proportionalMb, 0);
     }
 }

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Counts by valgrind's tool callgrind how many instructions each phase takes, on standard output one figure a line, with
+// what they depend on besides: see docs/performance.md.
+#include "instrument.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTextStream>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int patienceMs = 120'000;
+// What happens once in a while, as when memory is tidied up, is to be spread.
+constexpr int switches = 50;
+constexpr int lampChanges = 1000;
+
+QByteArray outputOf(const QString &program, const QStringList &arguments,
+                    const QProcessEnvironment &environment, QProcess::ProcessChannel channel) {
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    if (!process.waitForFinished(patienceMs) || process.exitStatus() != QProcess::NormalExit ||
+        process.exitCode() != 0)
+        qFatal("%s failed: %s", qPrintable(program), process.readAllStandardError().constData());
+    process.setReadChannel(channel);
+    return process.readAll();
+}
+
+/// Of all threads, as callgrind counts with the options.
+qint64 instructionsOf(const QStringList &options, const QStringList &program,
+                      const QProcessEnvironment &environment) {
+    // The first run stores what each start stores and fills the cache of fonts.
+    outputOf(program.first(), program.mid(1), environment, QProcess::StandardOutput);
+    // Addresses that change from run to run would change the order of some hashes.
+    const QStringList callgrind{u"-R"_s, u"valgrind"_s, u"--tool=callgrind"_s,
+                                "--callgrind-out-file=%1/callgrind.out"_L1.arg(environment.value(u"HOME"_s))};
+    const QByteArray told =
+        outputOf(u"setarch"_s, callgrind + options + program, environment, QProcess::StandardError);
+    static const QRegularExpression collected(u"Collected : ([0-9]+)"_s);
+    const QRegularExpressionMatch match = collected.match(QString::fromLocal8Bit(told));
+    if (!match.hasMatch())
+        qFatal("callgrind tells no count: %s", told.constData());
+    return match.captured(1).toLongLong();
+}
+
+void print(QTextStream &out, const QString &name, qint64 count) {
+    out << name.leftJustified(24) << QString::number(count).rightJustified(12) << '\n';
+    out.flush();
+}
+
+void countStart(QTextStream &out, int plugins) {
+    const Instrument instrument(plugins);
+    QProcessEnvironment environment = instrument.fixedEnvironment();
+    environment.insert(u"ZR_BENCH_START_NS"_s, u"0"_s);
+    // All but what fontconfig reads before its first answer: its parser's hashes begin with a random number.
+    const QStringList options{u"--toggle-collect=FcInit"_s, u"--collect-atstart=yes"_s};
+    const QString name = u"start-%1-plug-ins"_s.arg(plugins);
+    print(out, name, instructionsOf(options, {QStringLiteral(LAUNCHER)}, environment));
+    print(out, name + "-floor"_L1,
+          instructionsOf(options, {QStringLiteral(FLOOR), QString::number(plugins), instrument.path()},
+                         environment));
+}
+
+/// Of one repetition.
+void countRepaint(QTextStream &out, const QString &name, const QString &work, int repetitions) {
+    const Instrument home(0);
+    print(out, name,
+          instructionsOf({u"--toggle-collect=repeatForCounting"_s},
+                         {QStringLiteral(REPAINT), u"--only"_s, work, QString::number(repetitions)},
+                         home.fixedEnvironment()) /
+              repetitions);
+}
+
+/// Which of its ways through memory and text the C library takes depends on the processor.
+QString processor() {
+    QFile file(u"/proc/cpuinfo"_s);
+    const bool hasAvx2 = file.open(QIODevice::ReadOnly) && file.readAll().contains(" avx2");
+    return QSysInfo::currentCpuArchitecture() + (hasAvx2 ? " avx2"_L1 : ""_L1);
+}
+
+void printSurroundings(QTextStream &out) {
+    out << "# Counted with\n";
+    for (const char *const package :
+         {"libc6", "libstdc++6", "libqt6core6", "libqt6gui6", "libqt6widgets6", "libfontconfig1",
+          "libfreetype6", "fonts-liberation", "g++", "valgrind"})
+        out << outputOf(u"dpkg-query"_s,
+                        {u"-W"_s, u"-f"_s, u"with ${Package} ${Version}\\n"_s, QString::fromLatin1(package)},
+                        QProcessEnvironment::systemEnvironment(), QProcess::StandardOutput);
+    out << "with processor " << processor() << '\n';
+}
+
+} // namespace
+
+int main() {
+    QTextStream out(stdout);
+    out << "# Instructions that each phase takes, and the floor's. Renewed by: benchmarks/check-instructions "
+           "renew\n";
+    for (const int plugins : {0, 10})
+        countStart(out, plugins);
+    countRepaint(out, u"page-switch"_s, u"page-switch"_s, switches);
+    countRepaint(out, u"page-switch-floor"_s, u"bare-page-switch"_s, switches);
+    countRepaint(out, u"lamp"_s, u"lamp"_s, lampChanges);
+    countRepaint(out, u"lamp-floor"_s, u"bare-label"_s, lampChanges);
+    printSurroundings(out);
+    return 0;
+}

@@ -1,0 +1,195 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// What is painted again while the launcher is used, against a bare screen: the switch of the page, a changed lamp.
+//
+//   measure-repaint [RUNS]         rows of medians
+//   measure-repaint --only WHAT TIMES
+//                                  one of the works below, repeated inside repeatForCounting()
+#include "barescreen.h"
+#include "instrument.h"
+#include "tablerow.h"
+#include "ui/colourchoice.h"
+#include "ui/iconpage.h"
+#include "ui/launcherwindow.h"
+
+#include <checkbutton.h>
+#include <ledpanel.h>
+#include <styleoverride.h>
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QPaintEvent>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QSize screenSize(800, 480);
+constexpr int lampCount = 24;
+/// Of a panel with so many lamps; a panel with few has rows of 25 pixels.
+constexpr int lampRow = 17;
+constexpr double aimOfSwitch = 1.2;
+
+/// Work that paints; the argument counts its repetitions.
+using Work = std::function<void(int)>;
+using Works = QMap<QString, Work>;
+
+/// The largest area that a widget was asked to paint while this lives.
+class PaintWatch : public QObject {
+public:
+    PaintWatch() { qApp->installEventFilter(this); }
+
+    int pixels = 0;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override {
+        if (event->type() == QEvent::Paint && object->isWidgetType()) {
+            const QRect rect = static_cast<QPaintEvent *>(event)->region().boundingRect();
+            pixels = std::max(pixels, rect.width() * rect.height());
+        }
+        return false;
+    }
+};
+
+QString lampName(int index) {
+    return u"L%1"_s.arg(index);
+}
+
+/// The launcher with two pages of ten tiles.
+class Screen {
+public:
+    Screen() {
+        window.resize(screenSize);
+        window.show();
+        buttons = window.findChildren<CheckButton *>();
+        if (buttons.size() != 2)
+            qFatal("The launcher has %lld pages, not two.", static_cast<long long>(buttons.size()));
+        choosePage(0);
+    }
+
+    /// Leaves the panel without lamps: no card is inserted.
+    void choosePage(int index) { buttons[index]->click(); }
+
+    void setUpLamps() {
+        QStringList names;
+        for (int i = 0; i < lampCount; ++i)
+            names.append(lampName(i));
+        window.setupLeds(names);
+    }
+
+    void changeLamp(bool isSet) {
+        QList<QPair<QString, QString>> states{{lampName(1), isSet ? u"present"_s : u"none"_s}};
+        window.updateLeds(states);
+    }
+
+    LauncherWindow window;
+
+private:
+    QList<CheckButton *> buttons;
+};
+
+/// What has been asked for is done and painted.
+void finish() {
+    QCoreApplication::sendPostedEvents();
+}
+
+/// Work that paints nothing would count as quick.
+void mustPaint(const Work &work) {
+    for (int i = 0; i < 2; ++i) {
+        const PaintWatch watch;
+        work(i);
+        finish();
+        if (watch.pixels == 0)
+            qFatal("Nothing was painted.");
+    }
+}
+
+double medianMs(const Work &work, int runs) {
+    mustPaint(work);
+    QList<double> times;
+    for (int i = 0; i < runs; ++i) {
+        QElapsedTimer timer;
+        timer.start();
+        work(i);
+        finish();
+        times.append(double(timer.nsecsElapsed()) / 1e6);
+    }
+    std::sort(times.begin(), times.end());
+    return times[times.size() / 2];
+}
+
+void printSwitch(const Works &works, int runs) {
+    const double launcher = medianMs(works[u"page-switch"_s], runs);
+    const double floor = medianMs(works[u"bare-page-switch"_s], runs);
+    printTableRow(u"page switch to painted frame, ms"_s, launcher, floor, u"1.20 × floor"_s,
+                  aimOfSwitch * floor);
+}
+
+void printLamp(const Works &works, int runs, const QSize &panel) {
+    const Work change = works[u"lamp"_s];
+    printTableRow(u"changed lamp to painted frame, ms"_s, medianMs(change, runs),
+                  medianMs(works[u"bare-label"_s], runs));
+    const PaintWatch watch;
+    change(runs);
+    finish();
+    printTableRow(u"one lamp of 24 changes, pixels painted (floor: the panel)"_s, watch.pixels,
+                  panel.width() * panel.height(), u"one row of the panel"_s, panel.width() * lampRow);
+}
+
+} // namespace
+
+/// Found by its name: only what happens in here is counted.
+extern "C" [[gnu::noinline]] void repeatForCounting(const Work &work, int repetitions) {
+    for (int i = 0; i < repetitions; ++i) {
+        work(i);
+        finish();
+    }
+}
+
+int main(int argc, char *argv[]) {
+    const Instrument instrument(2 * Instrument::iconsPerPage);
+    const QProcessEnvironment environment = instrument.environment();
+    for (const char *const name : {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZR_SYSROOT", "QT_QPA_PLATFORM"})
+        qputenv(name, environment.value(QString::fromLatin1(name)).toLocal8Bit());
+    qunsetenv("ZR_BENCH_START_NS");
+    const QApplication application(argc, argv);
+    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
+        if (type == QtFatalMsg)
+            std::fprintf(stderr, "%s\n", qPrintable(text));
+    });
+    QApplication::setFont(QFont(u"Liberation Sans"_s));
+    ColourChoice::wear(PaletteFactory::Day);
+    QApplication::setStyle(new StyleOverride(QApplication::style()));
+
+    Screen screen;
+    QCoreApplication::processEvents();
+    const int panelWidth = screen.window.findChild<LedPanel *>()->width();
+    BareScreen bare(screen.window.findChild<IconPage *>()->size(), {panelWidth, lampRow});
+    bare.show();
+    QCoreApplication::processEvents();
+    const Works works{{u"page-switch"_s, [&](int i) { screen.choosePage((i + 1) % 2); }},
+                      {u"lamp"_s, [&](int i) { screen.changeLamp(i % 2 == 0); }},
+                      {u"bare-page-switch"_s, [&](int i) { bare.choosePage((i + 1) % 2); }},
+                      {u"bare-label"_s, [&](int i) { bare.changeLabel(i % 2 == 0); }}};
+    const QStringList words = QCoreApplication::arguments();
+    if (words.value(1) == "--only"_L1) {
+        const Work work = works.value(words.value(2));
+        if (!work)
+            qFatal("There is no work of that name.");
+        screen.setUpLamps();
+        finish();
+        // What is made once only is made now.
+        mustPaint(work);
+        repeatForCounting(work, words.value(3).toInt());
+        return 0;
+    }
+    const int runs = words.size() > 1 ? words[1].toInt() : 301;
+    printSwitch(works, runs);
+    screen.setUpLamps();
+    QCoreApplication::processEvents();
+    printLamp(works, runs, screen.window.findChild<LedPanel *>()->size());
+    return 0;
+}
