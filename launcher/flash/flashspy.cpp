@@ -54,8 +54,13 @@ void FlashSpy::subscribe() {
 }
 
 void FlashSpy::clearConfig() {
-    ZrLauncherConfig(u"flash"_s, u"dir"_s) = QString();
-    ZrLauncherConfig(u"flash"_s, u"save"_s) = false;
+    ZrLauncherConfig directory(u"flash"_s, u"dir"_s);
+    ZrLauncherConfig save(u"flash"_s, u"save"_s);
+    // Only the launcher writes these, and what it wrote is on the disk: a start need not wait for the disk again.
+    if (directory.string().isEmpty() && save.string() == "false"_L1)
+        return;
+    directory = QString();
+    save = false;
 }
 
 bool FlashSpy::isValidPartition(const QString &name) {
