@@ -26,7 +26,7 @@ function(zr_add_fuzz_target name)
     target_link_options(${name} PRIVATE -fsanitize=fuzzer,address)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/fuzz)
     add_custom_target(${name}_corpus ALL
-        COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_CURRENT_SOURCE_DIR}/corpus
+        COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_CURRENT_SOURCE_DIR}/corpus/${name}
             ${PROJECT_BINARY_DIR}/fuzz/${name}.corpus)
     add_dependencies(fuzz_targets ${name} ${name}_corpus)
 endfunction()
