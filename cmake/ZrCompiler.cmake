@@ -14,9 +14,17 @@ target_compile_options(zr_warnings INTERFACE
     $<$<BOOL:${ZR_WARNINGS_AS_ERRORS}>:-Werror>)
 target_compile_definitions(zr_warnings INTERFACE QT_NO_CAST_FROM_ASCII QT_STRICT_ITERATORS)
 
+if(ZR_SANITIZE STREQUAL address)
+    set(ZR_SANITIZER_FLAG -fsanitize=address,undefined)
+    add_compile_options(-fno-sanitize-recover=undefined)
+elseif(ZR_SANITIZE STREQUAL thread)
+    set(ZR_SANITIZER_FLAG -fsanitize=thread)
+elseif(ZR_SANITIZE)
+    message(FATAL_ERROR "ZR_SANITIZE is \"${ZR_SANITIZE}\"; it may be address or thread.")
+endif()
 if(ZR_SANITIZE)
-    add_compile_options(-fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
-    add_link_options(-fsanitize=address,undefined)
+    add_compile_options(${ZR_SANITIZER_FLAG} -fno-omit-frame-pointer)
+    add_link_options(${ZR_SANITIZER_FLAG})
 endif()
 
 # The code under the fuzz targets tells the fuzzer where it has been.

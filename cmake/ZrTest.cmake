@@ -13,11 +13,21 @@ function(zr_add_test name)
     set_tests_properties(${name} PROPERTIES TIMEOUT 120)
 endfunction()
 
+add_custom_target(thread_tests)
+
+# zr_uses_threads(<test>...)
+#
+# The thread sanitizer has something to see in these: more than one thread runs code of this project in them.
+function(zr_uses_threads)
+    set_tests_properties(${ARGN} PROPERTIES LABELS threads)
+    add_dependencies(thread_tests ${ARGN})
+endfunction()
+
 add_custom_target(fuzz_targets)
 
 # zr_add_fuzz_target(<name> SOURCES <file>... [LIBRARIES <target>...])
 #
-# A libFuzzer program; its seeds lie in corpus/ beside it. tests/support/run-fuzz-targets runs them all.
+# A libFuzzer program; its seeds lie in corpus/<name>/ beside it. tests/support/run-fuzz-targets runs them all.
 function(zr_add_fuzz_target name)
     cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})

@@ -34,6 +34,7 @@ private slots:
     void replyThatComesAfterTheLineWasOpenedAnewIsDropped_data();
     void replyThatComesAfterTheLineWasOpenedAnewIsDropped();
     void cardThatIsNotThereIsTriedAgain();
+    void cardIsFoundByTheNameOfItsHost();
     void listenerThatAcceptsNobodyCostsATimeLimitAndNoProcessor();
 };
 
@@ -83,6 +84,13 @@ void CommandChannelTest::cardThatIsNotThereIsTriedAgain() {
     QCOMPARE(nowhere.send(u"options"_s).kind, CommandChannel::Outcome::Failed);
     QCOMPARE(nowhere.send(u"options"_s).kind, CommandChannel::Outcome::Failed);
     QCOMPARE(CommandChannel(address).send(u"options"_s).text, u"G703"_s);
+}
+
+void CommandChannelTest::cardIsFoundByTheNameOfItsHost() {
+    FakeCard card(FakeCard::Tcp);
+    card.setReply("options", "G703");
+    CommandChannel channel(card.cardiface().replace(u"127.0.0.1"_s, u"localhost"_s));
+    QCOMPARE(channel.send(u"options"_s).text, u"G703"_s);
 }
 
 void CommandChannelTest::listenerThatAcceptsNobodyCostsATimeLimitAndNoProcessor() {
