@@ -61,6 +61,7 @@ public:
     QStringList clippedTexts() { return ask<QStringList>("clippedTexts"); }
     bool pressRow(int row) { return ask<bool>("pressRow", {row}); }
     bool grab(const QString &file) { return ask<bool>("grab", {file}); }
+    QStringList holdings() { return ask<QStringList>("holdings"); }
     void goHome() { probe->call(QStringLiteral("goHome")); }
 
 private:

@@ -2,6 +2,7 @@
 #include "probe.h"
 
 #include "clippedtexts.h"
+#include "holdings.h"
 #include "ui/launcherwindow.h"
 
 #include <checkbutton.h>
@@ -191,6 +192,15 @@ bool Probe::pressRow(int row) const {
 
 void Probe::goHome() const {
     LauncherWindow::instance()->goHome();
+}
+
+QStringList Probe::holdings() const {
+    const Holdings held = holdingsOf(*LauncherWindow::instance());
+    QStringList numbers;
+    for (const qint64 number : {qint64(held.widgets), qint64(held.objects), qint64(held.descriptors),
+                                qint64(held.matchRules), residentBytes()})
+        numbers.append(QString::number(number));
+    return numbers;
 }
 
 QStringList Probe::clippedTexts() const {

@@ -42,6 +42,8 @@ public slots:
     /// Presses a row of the visible list or table.
     bool pressRow(int row) const;
     void goHome() const;
+    /// Numbers of widgets, objects below the window, descriptors, match rules and resident bytes.
+    QStringList holdings() const;
     /// Shows the probe's own window, which has a shortcut on F3.
     void showShortcutWindow() { emit windowWanted(); }
     /// How often that shortcut was used.
