@@ -11,9 +11,9 @@
 struct Crash {
     /// On the clock that counts from the machine's start, time asleep included: nobody sets it.
     std::chrono::milliseconds moment{};
-    /// The plug-in library that stood topmost in the trace.
+    /// The plug-in library that stood topmost in the trace or, where there is none, was being loaded.
     QString library;
-    /// Its lines.
+    /// Its lines, or one that says why there are none.
     QString trace;
 
     bool operator==(const Crash &) const = default;

@@ -35,10 +35,11 @@ QString registerInstallationOf(const QString &launcher) {
 }
 
 void tellLeftOut(const LeftOutPlugin &plugin) {
-    std::fprintf(stderr,
-                 "The plug-in %s is left out until the next start of the instrument: it stood topmost in the "
-                 "traces of %lld crashes within a minute.\n",
-                 qPrintable(plugin.library), static_cast<long long>(plugin.crashes));
+    std::fprintf(
+        stderr,
+        "The plug-in %s is left out until the next start of the instrument: %lld crashes within a minute "
+        "are put down to it.\n",
+        qPrintable(plugin.library), static_cast<long long>(plugin.crashes));
 }
 
 } // namespace
@@ -75,7 +76,7 @@ int LauncherStart::runAndRemember(LauncherRun &launcherRun) {
     const int status = runWithoutLeftOut(launcherRun);
     const bool failed = status != 0 && !launcherRun.wasStopped();
     // A plug-in that is left out takes the reason of the failures along.
-    if (!failed || rememberCrash(launcherRun.trace()))
+    if (!failed || rememberCrash(launcherRun.trace(), status))
         rememberFailedRuns(0);
     else
         rememberFailedRuns(failedRunsAfterFailure(state.failedRuns, sinceMachineStart() - beginning));
@@ -112,9 +113,15 @@ QString LauncherStart::pathOfNotices(const QString &pluginDirectory) const {
     return path == "."_L1 ? QString() : path + u'/';
 }
 
-bool LauncherStart::rememberCrash(const TraceReader &trace) {
+bool LauncherStart::rememberCrash(const TraceReader &trace, int status) {
     // The launcher leaves out frames without a name. Then it must be the plug-in that was being loaded.
     QStringList modules = trace.modules() << trace.loadedPlugin();
+    QString lines = QString::fromLocal8Bit(trace.lines().join('\n'));
+    if (status > killedBySignal && trace.modules().isEmpty()) {
+        modules = QStringList{trace.unfinishedPlugin()};
+        lines = u"No trace: signal %1 ended the launcher while it loaded this plug-in."_s.arg(status -
+                                                                                              killedBySignal);
+    }
     std::transform(modules.begin(), modules.end(), modules.begin(), resolvedLibrary);
     const QSettings store(u"talvenor"_s, u"zr-launcher"_s);
     const std::optional<QString> culprit = topmostListed(modules, listedPlugins(store));
@@ -122,7 +129,7 @@ bool LauncherStart::rememberCrash(const TraceReader &trace) {
         return false;
     const std::chrono::milliseconds now = sinceMachineStart();
     state.crashes = withinLastMinute(state.crashes, now);
-    state.crashes.append({now, *culprit, QString::fromLocal8Bit(trace.lines().join('\n'))});
+    state.crashes.append({now, *culprit, lines});
     const std::optional<Crash> last = crashToLeaveOut(state.crashes);
     if (last) {
         state.leftOut.append({last->library, state.crashes.size(), last->trace});

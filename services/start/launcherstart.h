@@ -31,7 +31,7 @@ private:
     /// The shipped directory as it is reached from "plugins"/"path", where the launcher looks libraries up.
     QString pathOfNotices(const QString &pluginDirectory) const;
     /// Whether the crash costs a plug-in its place.
-    bool rememberCrash(const TraceReader &trace);
+    bool rememberCrash(const TraceReader &trace, int status);
     void rememberFailedRuns(qint64 count);
 
     QString launcher;

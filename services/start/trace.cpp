@@ -40,6 +40,10 @@ std::optional<QString> announcedLibrary(const QByteArray &line) {
     return std::nullopt;
 }
 
+bool endsLoading(const QByteArray &line) {
+    return line == "all plugins loaded";
+}
+
 void TraceReader::read(QByteArrayView bytes) {
     while (!bytes.isEmpty()) {
         const qsizetype end = bytes.indexOf('\n');
@@ -70,6 +74,8 @@ void TraceReader::endLine() {
         }
     } else if (const std::optional<QString> library = announcedLibrary(currentLine)) {
         announcedPlugin = *library;
+    } else if (endsLoading(currentLine)) {
+        announcedPlugin.clear();
     }
     currentLine.clear();
 }

@@ -27,6 +27,9 @@ bool beginsTrace(const QByteArray &line);
 /// The library that the launcher says it is about to load, or nothing when the line says something else.
 std::optional<QString> announcedLibrary(const QByteArray &line);
 
+/// Whether the launcher says that none of those that it announced is being loaded any more.
+bool endsLoading(const QByteArray &line);
+
 /// Picks the last trace out of a stream of bytes. Holds a bounded part of it, whatever comes: no line longer than
 /// 4 KiB, no more frames than a crash handler writes.
 class TraceReader {
@@ -39,6 +42,8 @@ public:
     QStringList modules() const { return traceModules; }
     /// The plug-in that was being loaded, which a trace may not name. Empty when none was.
     QString loadedPlugin() const { return isOfLoading ? announcedPlugin : QString(); }
+    /// The plug-in that the launcher has begun to load and not yet passed. Empty when there is none.
+    QString unfinishedPlugin() const { return announcedPlugin; }
 
 private:
     void endLine();

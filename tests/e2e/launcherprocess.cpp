@@ -3,8 +3,12 @@
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
+#include <QDeadlineTimer>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QTest>
+
+#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,6 +73,22 @@ void LauncherProcess::setScreenHeight(int pixels) {
     // The sanitizers want to come first themselves.
     environment.insert(u"ASAN_OPTIONS"_s,
                        environment.value(u"ASAN_OPTIONS"_s) + ":verify_asan_link_order=0"_L1);
+}
+
+std::chrono::milliseconds LauncherProcess::slowestPress(const QString &nameOrText,
+                                                        std::chrono::milliseconds period) {
+    std::chrono::milliseconds slowest{};
+    const QDeadlineTimer end(period);
+    while (!end.hasExpired()) {
+        QElapsedTimer clock;
+        clock.start();
+        if (!press(nameOrText))
+            return std::chrono::milliseconds::max();
+        slowest = std::max(slowest, std::chrono::milliseconds(clock.elapsed()));
+        // Takes what the launcher writes to its standard error, which would fill the pipe.
+        QCoreApplication::processEvents();
+    }
+    return slowest;
 }
 
 QByteArray LauncherProcess::errors() {

@@ -4,6 +4,7 @@
 #include <QDBusInterface>
 #include <QProcess>
 
+#include <chrono>
 #include <csignal>
 #include <memory>
 
@@ -27,6 +28,8 @@ public:
     int waitForEnd();
     /// Sends it `signal` and waits until it is gone, from the bus as well. Its exit status, -1 when the signal ended it.
     int stop(int signal = SIGTERM);
+    /// Presses what is named again and again for a while: how long the slowest answer took.
+    std::chrono::milliseconds slowestPress(const QString &nameOrText, std::chrono::milliseconds period);
     qint64 processId() const { return process.processId(); }
 
     /// Gives the launcher a framebuffer of that height.
@@ -60,6 +63,10 @@ public:
     bool isVisible(const QString &name) { return ask<bool>("isVisible", {name}); }
     QStringList clippedTexts() { return ask<QStringList>("clippedTexts"); }
     bool pressRow(int row) { return ask<bool>("pressRow", {row}); }
+    QStringList paintedTexts(const QString &className) {
+        return ask<QStringList>("paintedTexts", {className});
+    }
+    bool isScreenUpToDate() { return ask<bool>("isScreenUpToDate"); }
     bool grab(const QString &file) { return ask<bool>("grab", {file}); }
     QStringList holdings() { return ask<QStringList>("holdings"); }
     void goHome() { probe->call(QStringLiteral("goHome")); }

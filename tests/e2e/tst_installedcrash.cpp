@@ -54,8 +54,11 @@ private slots:
     void twoFaultyPluginsAreLeftOut();
     void pluginWithoutNamesIsFoundWhileItIsLoaded();
     void pluginWithoutNamesIsNotFoundLater();
-    void deathWithoutATraceLeavesNothingOut_data();
-    void deathWithoutATraceLeavesNothingOut();
+    void deathWithoutATraceLeavesOutThePluginBeingLoaded_data();
+    void deathWithoutATraceLeavesOutThePluginBeingLoaded();
+    void deathWithoutATraceOnAPressLeavesNothingOut();
+    void memoryThatRunsOutDropsThePluginBeingLoaded();
+    void memoryThatRunsOutOnAPressEndsTheLauncher();
     void stopEndsTheLauncherInOrder();
     void managerHearsTheLauncherItself();
 
@@ -69,6 +72,7 @@ private:
     std::unique_ptr<LauncherProcess> makeStart() const;
     End crashOnce(const QString &pressed = {}) const;
     void crashThreeTimes(const QString &plugin, const QString &pressed = {}) const;
+    static bool startWithLimitedMemory(LauncherProcess &launcher);
     static QString noticeIn(LauncherProcess &launcher, const QString &plugin);
 
     TestConfig config;
@@ -251,23 +255,76 @@ void InstalledCrashTest::pluginWithoutNamesIsNotFoundLater() {
     }
 }
 
-void InstalledCrashTest::deathWithoutATraceLeavesNothingOut_data() {
+void InstalledCrashTest::deathWithoutATraceLeavesOutThePluginBeingLoaded_data() {
     QTest::addColumn<QString>("plugin");
     QTest::addColumn<int>("status");
     QTest::newRow("stack overflow") << u"faultyoverflow"_s << 128 + SIGSEGV;
     QTest::newRow("abort") << u"faultyabort"_s << 128 + SIGABRT;
+    // As the kernel ends what takes more memory than its unit may have.
+    QTest::newRow("killed") << u"faultykill"_s << 128 + SIGKILL;
 }
 
-void InstalledCrashTest::deathWithoutATraceLeavesNothingOut() {
+void InstalledCrashTest::deathWithoutATraceLeavesOutThePluginBeingLoaded() {
     QFETCH(QString, plugin);
     QFETCH(int, status);
     configure({plugin});
-    for (int number = 0; number < 4; ++number) {
+    for (int number = 1; number <= 3; ++number) {
         const End end = crashOnce();
         QCOMPARE(end.status, status);
         QVERIFY2(!end.errors.contains("[bt]: ("), end.errors);
+        QCOMPARE(end.errors.count("The plug-in " + libraryOf(plugin) + " is left out"), number == 3 ? 1 : 0);
+    }
+    const std::unique_ptr<LauncherProcess> launcher = makeStart();
+    QVERIFY2(launcher->start({launcherProgram}), launcher->errors());
+    QVERIFY(launcher->press(noticeIn(*launcher, plugin)));
+    const QString texts = launcher->pageTexts().join(u'\n');
+    QVERIFY2(texts.contains(u"No trace: signal %1 ended"_s.arg(status - 128)), qPrintable(texts));
+}
+
+void InstalledCrashTest::deathWithoutATraceOnAPressLeavesNothingOut() {
+    const QString plugin = u"faultykillpress"_s;
+    configure({plugin});
+    for (int number = 0; number < 3; ++number) {
+        const End end = crashOnce(u"faulty"_s);
+        QCOMPARE(end.status, 128 + SIGKILL);
         QVERIFY2(!end.errors.contains("is left out"), end.errors);
     }
+    // It is started again nevertheless, with the plug-in.
+    const std::unique_ptr<LauncherProcess> launcher = makeStart();
+    QVERIFY2(launcher->start({launcherProgram}), launcher->errors());
+    QVERIFY(launcher->isVisible(u"faulty"_s));
+}
+
+bool InstalledCrashTest::startWithLimitedMemory(LauncherProcess &launcher) {
+    const QString starter = std::exchange(launcher.program, u"prlimit"_s);
+    return launcher.start({u"--as=1500000000"_s, starter, launcherProgram});
+}
+
+void InstalledCrashTest::memoryThatRunsOutDropsThePluginBeingLoaded() {
+    if (!MEMORY_MAY_BE_LIMITED)
+        QSKIP("The address sanitizer takes more addresses than the limit leaves.");
+    configure({u"faultymemory"_s});
+    const std::unique_ptr<LauncherProcess> launcher = makeStart();
+    QVERIFY2(startWithLimitedMemory(*launcher), launcher->errors());
+    QTRY_COMPARE(launcher->errors().count("/libfaultymemory.so failed: std::bad_alloc"), 1);
+    QVERIFY(!launcher->isVisible(u"faulty"_s));
+    QVERIFY(launcher->press(u"Система"_s));
+    QCOMPARE(launcher->stop(), 0);
+}
+
+void InstalledCrashTest::memoryThatRunsOutOnAPressEndsTheLauncher() {
+    if (!MEMORY_MAY_BE_LIMITED)
+        QSKIP("The address sanitizer takes more addresses than the limit leaves.");
+    configure({u"faultymemorypress"_s});
+    for (int number = 0; number < 2; ++number) {
+        const std::unique_ptr<LauncherProcess> launcher = makeStart();
+        QVERIFY2(startWithLimitedMemory(*launcher), launcher->errors());
+        launcher->pressWithoutAnswer(u"faulty"_s);
+        QCOMPARE(launcher->waitForEnd(), 128 + SIGABRT);
+        QVERIFY2(launcher->errors().contains("std::bad_alloc"), launcher->errors());
+    }
+    const std::unique_ptr<LauncherProcess> launcher = makeStart();
+    QVERIFY2(launcher->start({launcherProgram}), launcher->errors());
 }
 
 void InstalledCrashTest::stopEndsTheLauncherInOrder() {

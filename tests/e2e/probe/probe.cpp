@@ -3,6 +3,7 @@
 
 #include "clippedtexts.h"
 #include "holdings.h"
+#include "textrecorder.h"
 #include "ui/launcherwindow.h"
 
 #include <checkbutton.h>
@@ -18,6 +19,7 @@
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStackedWidget>
 #include <QTextEdit>
 
@@ -205,6 +207,27 @@ QStringList Probe::holdings() const {
 
 QStringList Probe::clippedTexts() const {
     return ::clippedTexts();
+}
+
+QStringList Probe::paintedTexts(const QString &className) const {
+    QStringList texts;
+    for (QWidget *const widget : QApplication::allWidgets()) {
+        if (!widget->inherits(className.toLatin1().constData()))
+            continue;
+        TextRecorder recorder(widget->size());
+        widget->render(&recorder);
+        for (const TextRecorder::Text &text : recorder.texts())
+            texts.append(text.text);
+    }
+    return texts;
+}
+
+bool Probe::isScreenUpToDate() const {
+    LauncherWindow *const window = LauncherWindow::instance();
+    const auto plain = [](const QPixmap &picture) {
+        return picture.toImage().convertToFormat(QImage::Format_RGB32);
+    };
+    return plain(window->screen()->grabWindow(window->winId())) == plain(window->grab());
 }
 
 bool Probe::grab(const QString &file) const {

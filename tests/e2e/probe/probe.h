@@ -50,6 +50,10 @@ public slots:
     int shortcuts() const { return shortcutCount; }
     /// Texts that are not shown whole (see clippedtexts.h).
     QStringList clippedTexts() const;
+    /// Texts that the widgets of a class paint, hidden ones too.
+    QStringList paintedTexts(const QString &className) const;
+    /// Whether the screen shows the window as it would be painted now.
+    bool isScreenUpToDate() const;
     /// Writes a picture of the window with its open pop-up.
     bool grab(const QString &file) const;
 

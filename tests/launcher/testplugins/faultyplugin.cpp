@@ -7,8 +7,11 @@
 #include <QThread>
 #include <QTimer>
 
+#include <csignal>
 #include <cstdlib>
 #include <memory>
+#include <sys/resource.h>
+#include <vector>
 
 namespace {
 
@@ -21,7 +24,11 @@ enum FaultPlace {
     OnPress,
     Overflow,
     Abort,
-    InTrace
+    InTrace,
+    Kill,
+    KillOnPress,
+    Memory,
+    MemoryOnPress
 };
 
 constexpr FaultPlace place = FAULT_PLACE;
@@ -43,6 +50,20 @@ int overflow(int depth) {
     return depth < 0 ? room[0] : overflow(depth + 1) + room[0];
 }
 
+void killOurselves() {
+    ::raise(SIGKILL);
+}
+
+/// Takes all the memory that the process may have. Not on a machine that sets no limit.
+void eatMemory() {
+    rlimit limit{};
+    if (::getrlimit(RLIMIT_AS, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY)
+        std::_Exit(EXIT_FAILURE);
+    std::vector<std::unique_ptr<char[]>> pieces;
+    for (;;)
+        pieces.push_back(std::make_unique<char[]>(std::size_t(1) << 20));
+}
+
 } // namespace
 
 FaultyPlugin::FaultyPlugin() : icon(own(new QPushButton(QStringLiteral("faulty")))) {
@@ -54,9 +75,13 @@ FaultyPlugin::FaultyPlugin() : icon(own(new QPushButton(QStringLiteral("faulty")
         overflow(0);
     if (place == Abort)
         std::abort();
+    if (place == Kill)
+        killOurselves();
+    if (place == Memory)
+        eatMemory();
     connect(icon, &QPushButton::clicked, this, &FaultyPlugin::useIcon);
     // As soon as the launcher is up.
-    if (place != OnPress)
+    if (place != OnPress && place != KillOnPress && place != MemoryOnPress)
         QTimer::singleShot(0, icon, &QPushButton::click);
 }
 
@@ -71,6 +96,10 @@ QWidget *FaultyPlugin::iconWidget() {
 void FaultyPlugin::useIcon() {
     if (place == OnClick || place == OnPress)
         writeNowhere();
+    if (place == KillOnPress)
+        killOurselves();
+    if (place == MemoryOnPress)
+        eatMemory();
     if (place == InLauncher)
         emit setCurrentWidget(reinterpret_cast<QWidget *>(addressOfNothing));
 }

@@ -5,7 +5,7 @@
 
 class QPushButton;
 
-/// Follows a bad pointer at the place that the library was built for.
+/// Does what ends a launcher at the place that the library was built for; most follow a bad pointer.
 class FaultyPlugin : public GenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID GenericPlugin_iid)

@@ -27,6 +27,8 @@ private slots:
     void bareFramesMakeATrace();
     void pluginBeingLoadedIsKnown_data();
     void pluginBeingLoadedIsKnown();
+    void unfinishedPluginIsKnownWithoutATrace_data();
+    void unfinishedPluginIsKnownWithoutATrace();
     void brokenUpLinesAreJoined();
     void endlessLineIsForgotten();
     void floodOfFramesIsBounded();
@@ -115,6 +117,28 @@ void TraceTest::pluginBeingLoadedIsKnown() {
     TraceReader reader;
     reader.read(errors);
     QCOMPARE(reader.loadedPlugin(), plugin);
+}
+
+void TraceTest::unfinishedPluginIsKnownWithoutATrace_data() {
+    QTest::addColumn<QByteArray>("errors");
+    QTest::addColumn<QString>("plugin");
+    const QByteArray loads =
+        "initPlugin2 : loading plugin /opt/liba.so\ninitPlugin2 : loading plugin /opt/libb.so\n";
+    QTest::newRow("nothing") << QByteArray() << QString();
+    QTest::newRow("loading") << loads << u"/opt/libb.so"_s;
+    QTest::newRow("all loaded") << loads + "all plugins loaded\n" << QString();
+    QTest::newRow("a card's after the instrument's")
+        << loads + "all plugins loaded\ninitPlugin2 : loading plugin /opt/libc.so\n"
+        << u"/opt/libc.so"_s;
+    QTest::newRow("words of another line") << loads + "not all plugins loaded\n" << u"/opt/libb.so"_s;
+}
+
+void TraceTest::unfinishedPluginIsKnownWithoutATrace() {
+    QFETCH(const QByteArray, errors);
+    QFETCH(const QString, plugin);
+    TraceReader reader;
+    reader.read(errors);
+    QCOMPARE(reader.unfinishedPlugin(), plugin);
 }
 
 void TraceTest::brokenUpLinesAreJoined() {
