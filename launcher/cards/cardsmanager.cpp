@@ -5,12 +5,12 @@
 #include "cards/meascard.h"
 #include "measlogid.h"
 #include "plugins/cardpluginscollection.h"
+#include "sessionbus.h"
 #include "ui/launcherwindow.h"
 #include "zrlauncherconfig.h"
 
 #include <warningwindow.h>
 
-#include <QDBusConnection>
 #include <QDebug>
 
 #include <algorithm>
@@ -31,11 +31,16 @@ void CardsManager::scanAndSubscribe() {
 }
 
 void CardsManager::subscribe() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
+    if (!SessionBus::instance()->connection().isConnected()) {
         std::cerr << "No connection to the D-Bus session bus.\n" << std::flush;
         return;
     }
+    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()), Qt::UniqueConnection);
+    listen();
+}
+
+void CardsManager::listen() {
+    QDBusConnection bus = SessionBus::instance()->connection();
     // With the signatures: without, arguments of some other types reach the slot's conversion, which aborts.
     bus.connect(QString(), u"/"_s, u"zr.card"_s, u"inserted"_s, QStringList(), u"siss"_s, this,
                 SLOT(cardInserted(QString, int, QString, QString)));
@@ -64,6 +69,26 @@ void CardsManager::scanFile(const QString &path) {
         cardInserted(card->name, card->sn, card->cardiface, card->poller);
     else
         qDebug() << *pieces << " is not enough";
+}
+
+void CardsManager::catchUp() {
+    // As at the start, first the bus: a card that comes in between is not missed.
+    listen();
+    const std::optional<QStringList> files = cardInfoFiles(cardInfoDirectory());
+    if (!files)
+        return;
+    QList<CardInfo> present;
+    for (const QString &file : *files) {
+        const std::optional<QList<QByteArray>> pieces = readCardInfoFile(file);
+        if (const std::optional<CardInfo> card = pieces ? cardInfo(*pieces) : std::nullopt)
+            present.append(*card);
+    }
+    for (MeasCard *const card : QList<MeasCard *>(cards)) {
+        if (!present.removeOne(card->info()))
+            remove(card);
+    }
+    for (const CardInfo &card : std::as_const(present))
+        cardInserted(card.name, card.sn, card.cardiface, card.poller);
 }
 
 void CardsManager::runPersistent() {
@@ -117,11 +142,17 @@ void CardsManager::cardRemoved(const QString &name, int sn) {
         return candidate->name() == name && candidate->serial() == sn;
     });
     if (card != cards.cend()) {
-        MeasCard *const removed = *card;
-        cards.erase(card);
-        delete removed;
-    } else {
-        qDebug() << "no such card:" << name << "(" << sn << ")";
+        remove(*card);
+        return;
     }
+    qDebug() << "no such card:" << name << "(" << sn << ")";
+    emit cardIsRemoved(name, sn);
+}
+
+void CardsManager::remove(MeasCard *card) {
+    const QString name = card->name();
+    const int sn = card->serial();
+    cards.removeOne(card);
+    delete card;
     emit cardIsRemoved(name, sn);
 }

@@ -44,10 +44,16 @@ protected slots:
     void cardInserted(const QString &name, int sn, const QString &cardiface, const QString &poller);
     void cardRemoved(const QString &name, int sn);
 
+private slots:
+    /// After a time without a bus: takes what came and went from the info files.
+    void catchUp();
+
 private:
     PluginsCollection *makePersistentCollection(const QString &name);
+    void listen();
     void scanFile(const QString &path);
     void refuse(const QString &name);
+    void remove(MeasCard *card);
 
     QMap<QString, PluginsCollection *> persistentCollections;
     /// In order of arrival.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/meascard.h"
 
+#include "cards/cardinfo.h"
 #include "cards/cardreplies.h"
 #include "cards/cardsmanager.h"
 #include "plugins/cardpluginscollection.h"
@@ -78,6 +79,10 @@ bool MeasCard::freeCollections() {
     }
     cardCollections.clear();
     return onePersists;
+}
+
+CardInfo MeasCard::info() const {
+    return {cardName, sn, cardiface, poller};
 }
 
 QString MeasCard::uniqueName() const {

@@ -16,6 +16,7 @@ class CardPluginsCollection;
 class CardsManager;
 class DataProxy;
 class WarningWindow;
+struct CardInfo;
 
 /// One inserted measurement card, for as long as it is there. GUI thread only.
 ///
@@ -34,6 +35,8 @@ public:
 
     QString name() const { return cardName; }
     int serial() const { return sn; }
+    /// As it was announced.
+    CardInfo info() const;
     QString uniqueName() const;
     QList<CardPluginsCollection *> collections() const { return cardCollections; }
 

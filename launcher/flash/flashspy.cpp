@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/flashspy.h"
 
+#include "hostpath.h"
+#include "sessionbus.h"
 #include "zrlauncherconfig.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
+#include <QFile>
 #include <QRegularExpression>
 
 #include <iostream>
@@ -41,16 +43,29 @@ QString FlashSpy::flashName() const {
 }
 
 void FlashSpy::subscribe() {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
+    if (!SessionBus::instance()->connection().isConnected()) {
         std::cerr << "No connection to the D-Bus session bus.\n";
         return;
     }
+    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()));
+    listen();
+}
+
+void FlashSpy::listen() {
+    QDBusConnection bus = SessionBus::instance()->connection();
     const QString path = u"/"_s;
     const QString interface = u"zr.flash"_s;
     bus.connect(QString(), path, interface, u"inserted"_s, this, SLOT(addFlash(QString)));
     bus.connect(QString(), path, interface, u"removed"_s, this, SLOT(removeFlash(QString)));
     bus.connect(QString(), path, interface, u"mountFailed"_s, this, SLOT(brokeFlash(int)));
+}
+
+void FlashSpy::catchUp() {
+    listen();
+    isToBeConfirmed = !deviceName.isEmpty();
+    // Who unmounts a drive takes its directory away.
+    if (isToBeConfirmed && !QFile::exists(hostPath(flashDirectory)))
+        removeFlash(deviceName);
 }
 
 void FlashSpy::clearConfig() {
@@ -71,6 +86,12 @@ bool FlashSpy::isValidPartition(const QString &name) {
 }
 
 void FlashSpy::addFlash(const QString &devName) {
+    if (isToBeConfirmed && isValidPartition(devName)) {
+        isToBeConfirmed = false;
+        if (devName == deviceName)
+            return;
+        removeFlash(deviceName);
+    }
     if (!deviceName.isEmpty()) {
         emit mountFailed(tr("Only one flash card can be used. Please, remove currently installed"));
         return;
@@ -85,6 +106,7 @@ void FlashSpy::addFlash(const QString &devName) {
 
 void FlashSpy::removeFlash(const QString &) {
     clearConfig();
+    isToBeConfirmed = false;
     deviceName.clear();
     flashDirectory.clear();
     emit flashRemoved();

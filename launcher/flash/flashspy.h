@@ -31,8 +31,13 @@ public slots:
     /// mount(8) ended with that exit code, in which each bit has a meaning of its own.
     void brokeFlash(int errCode);
 
+private slots:
+    /// After a time without a bus, in which the drive may have been pulled.
+    void catchUp();
+
 private:
     void subscribe();
+    void listen();
     void clearConfig();
     static bool isValidPartition(const QString &name);
     static QString decodeMountError(int code);
@@ -40,4 +45,6 @@ private:
 
     QString flashDirectory;
     QString deviceName;
+    /// The mount service, which ends with the bus, announces a drive that stayed once more.
+    bool isToBeConfirmed = false;
 };

@@ -6,14 +6,21 @@
 /// A bus of the test's own, apart from the session bus.
 class PrivateBus {
 public:
-    PrivateBus();
+    /// At a socket of that name, or at an address of the bus's choice.
+    explicit PrivateBus(const QString &socket = QString());
     ~PrivateBus() { end(); }
 
     /// Empty when the bus did not come up.
     QString address() const { return busAddress; }
     void end();
+    /// Ends it as the kernel does, which leaves the socket behind.
+    void kill();
+    /// Begins anew at the same address.
+    bool restart();
 
 private:
+    bool start(const QString &address);
+
     QProcess daemon;
     QString busAddress;
 };

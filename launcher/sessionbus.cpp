@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "sessionbus.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThread>
+
+#include <chrono>
+#include <iostream>
+
+using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto pauseBetweenAttempts = 250ms;
+
+} // namespace
+
+SessionBus *SessionBus::instance() {
+    static QPointer<SessionBus> bus;
+    if (!bus)
+        bus = new SessionBus(QCoreApplication::instance());
+    return bus;
+}
+
+SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QDBusConnection::sessionBus()) {
+    nextAttempt.setSingleShot(true);
+    nextAttempt.setInterval(pauseBetweenAttempts);
+    connect(&nextAttempt, SIGNAL(timeout()), this, SLOT(beginAttempt()));
+    if (current.isConnected())
+        watch();
+}
+
+SessionBus::~SessionBus() {
+    if (attempt)
+        attempt->wait();
+}
+
+void SessionBus::watch() {
+    current.connect(QString(), u"/org/freedesktop/DBus/Local"_s, u"org.freedesktop.DBus.Local"_s,
+                    u"Disconnected"_s, this, SLOT(lose()));
+}
+
+void SessionBus::lose() {
+    std::cerr << "The D-Bus session bus is lost; waiting for a new one." << std::endl;
+    // The process's own connection stays in Qt's hands, and never works again.
+    if (!attemptedName.isEmpty())
+        QDBusConnection::disconnectFromBus(attemptedName);
+    nextAttempt.start();
+}
+
+void SessionBus::beginAttempt() {
+    attemptedName = u"zr-launcher-%1"_s.arg(++attemptCount);
+    attempt.reset(QThread::create(
+        [name = attemptedName] { QDBusConnection::connectToBus(QDBusConnection::SessionBus, name); }));
+    connect(attempt.get(), SIGNAL(finished()), this, SLOT(endAttempt()));
+    attempt->start();
+}
+
+void SessionBus::endAttempt() {
+    attempt->wait();
+    const QDBusConnection found(attemptedName);
+    if (!found.isConnected()) {
+        QDBusConnection::disconnectFromBus(attemptedName);
+        nextAttempt.start();
+        return;
+    }
+    current = found;
+    watch();
+    std::cerr << "The D-Bus session bus is back." << std::endl;
+    emit isBack();
+}

@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QTimer>
+
+#include <memory>
+
+class QThread;
+
+/// The launcher's connection to the session bus: that of the process, and once it is lost a new one, as soon as there is
+/// a bus at the address again.
+///
+/// A bus that is not there at the start is not looked for. Whoever connected to signals does so anew on isBack().
+/// GUI thread only.
+class SessionBus : public QObject {
+    Q_OBJECT
+
+public:
+    /// The one of the process; it goes with the application.
+    static SessionBus *instance();
+    ~SessionBus() override;
+
+    QDBusConnection connection() const { return current; }
+
+signals:
+    /// There was none for a while, and what was told meanwhile is lost.
+    void isBack();
+
+private slots:
+    void lose();
+    void beginAttempt();
+    void endAttempt();
+
+private:
+    explicit SessionBus(QObject *parent);
+    void watch();
+
+    QDBusConnection current;
+    QTimer nextAttempt;
+    /// A bus that takes the call and does not answer is waited for, but not by the screen.
+    std::unique_ptr<QThread> attempt;
+    QString attemptedName;
+    int attemptCount = 0;
+};

@@ -1,0 +1,180 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "launcherprocess.h"
+
+#include "privatebus.h"
+#include "testconfig.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <memory>
+
+using namespace Qt::Literals::StringLiterals;
+
+/// The installed launcher on a bus that ends under it. The probe and the simulated cards have another one.
+class InstalledBusTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void launcherOutlivesTheBus();
+    void everyLossIsOutlived();
+    void driveIsFollowedAcrossTheLoss_data();
+    void driveIsFollowedAcrossTheLoss();
+
+private:
+    QString socket() const { return directory->filePath(u"bus"_s); }
+    /// Told on the bus of the cards, which the launcher does not hear; the info file is there or gone.
+    static void simulate(const QString &words) { simulate(words, QProcessEnvironment::systemEnvironment()); }
+    static void simulate(const QString &words, const QProcessEnvironment &environment) {
+        QProcess simulator;
+        simulator.setProcessEnvironment(environment);
+        simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
+        simulator.waitForFinished();
+    }
+    void announceDrive(const QString &name) const {
+        QCOMPARE(QProcess::execute(u"dbus-send"_s, {"--bus="_L1 + bus->address(), u"/"_s,
+                                                    u"zr.flash.inserted"_s, "string:"_L1 + name}),
+                 0);
+    }
+    static QString storedDrive() {
+        QSettings store(u"talvenor"_s, u"zr-launcher"_s);
+        store.sync();
+        return store.value(u"flash/dir"_s).toString();
+    }
+    static QString mountPoint(const QString &drive) {
+        return qEnvironmentVariable("ZR_SYSROOT") + "/media/"_L1 + drive;
+    }
+    void loseTheBus();
+    void waitUntilItIsBack();
+
+    TestConfig config;
+    std::unique_ptr<QTemporaryDir> directory;
+    std::unique_ptr<PrivateBus> bus;
+    std::unique_ptr<LauncherProcess> launcher;
+    qsizetype losses = 0;
+};
+
+void InstalledBusTest::init() {
+    QVERIFY(QDir().mkpath(qEnvironmentVariable("ZR_SYSROOT") + "/var/run/tester"_L1));
+    config = TestConfig();
+    config.setPath(u""_s);
+    config.setPersistent(u"zr"_s);
+    config.setCollection(u"zr"_s, u"probe"_s);
+    config.addPlugin(u"probe"_s, {.file = QStringLiteral(E2E_PROBE)});
+    directory = std::make_unique<QTemporaryDir>();
+    bus = std::make_unique<PrivateBus>(socket());
+    QVERIFY(!bus->address().isEmpty());
+    launcher = std::make_unique<LauncherProcess>();
+    launcher->environment.insert(u"PROBE_BUS"_s, qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
+    launcher->environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus->address());
+    losses = 0;
+}
+
+void InstalledBusTest::cleanup() {
+    launcher.reset();
+    // A simulated card ends with its bus, and would leave its info file.
+    for (const QString &card : {u"e1-501"_s, u"gbe-7"_s, u"otdr-3"_s})
+        simulate("card remove "_L1 + card);
+    bus.reset();
+    QDir(mountPoint(u""_s)).removeRecursively();
+}
+
+void InstalledBusTest::loseTheBus() {
+    bus->kill();
+    ++losses;
+    QTRY_COMPARE(launcher->errors().count("The D-Bus session bus is lost"), losses);
+}
+
+void InstalledBusTest::waitUntilItIsBack() {
+    QTRY_COMPARE(launcher->errors().count("The D-Bus session bus is back.\n"), losses);
+}
+
+void InstalledBusTest::launcherOutlivesTheBus() {
+    simulate(u"card insert e1 501"_s);
+    QVERIFY2(launcher->start(), launcher->errors());
+    QCOMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"ИКМ"_s}));
+    loseTheBus();
+
+    // The card that is there has a line of its own.
+    simulate(u"card alarm e1-501 LOS present"_s);
+    QTRY_VERIFY(launcher->leds().contains(u"LOS:3"_s));
+    QVERIFY(launcher->press(u"Настройки"_s));
+    QCOMPARE(launcher->caption(), u"Настройки"_s);
+    simulate(u"card insert gbe 7"_s);
+    simulate(u"card remove e1-501"_s);
+    QCOMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"ИКМ"_s}));
+
+    QElapsedTimer sinceTheBusIsThere;
+    QVERIFY(bus->restart());
+    sinceTheBusIsThere.start();
+    QTRY_COMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"GbE"_s}));
+    qInfo("%lld ms from the new bus to the page of the new card",
+          static_cast<long long>(sinceTheBusIsThere.elapsed()));
+    QCOMPARE(launcher->caption(), u"GbE"_s);
+    QTRY_VERIFY(launcher->leds().contains(u"LINK:1"_s));
+
+    // News come on the new bus.
+    simulate(u"card insert otdr 3"_s, launcher->environment);
+    QTRY_COMPARE(launcher->selectorTexts().size(), 3);
+    announceDrive(u"sda1"_s);
+    QTRY_VERIFY(!launcher->message().isEmpty());
+    QCOMPARE(storedDrive(), u"/media/sda1"_s);
+}
+
+void InstalledBusTest::everyLossIsOutlived() {
+    QVERIFY2(launcher->start(), launcher->errors());
+    for (int round = 0; round < 5; ++round) {
+        loseTheBus();
+        QVERIFY(bus->restart());
+        waitUntilItIsBack();
+        simulate(u"card insert gbe 7"_s, launcher->environment);
+        QTRY_COMPARE(launcher->selectorTexts().size(), 2);
+        simulate(u"card remove gbe-7"_s);
+        QTRY_COMPARE(launcher->selectorTexts().size(), 1);
+    }
+    QCOMPARE(launcher->stop(), 0);
+}
+
+void InstalledBusTest::driveIsFollowedAcrossTheLoss_data() {
+    QTest::addColumn<bool>("isPulled");
+    QTest::addColumn<QString>("announced");
+    QTest::addColumn<QString>("drive");
+    QTest::addColumn<bool>("isAsked");
+    QTest::newRow("stayed, announced once more") << false << u"sda1"_s << u"/media/sda1"_s << false;
+    QTest::newRow("pulled") << true << u"sda"_s << QString() << false;
+    QTest::newRow("another in its place") << false << u"sdb1"_s << u"/media/sdb1"_s << true;
+}
+
+void InstalledBusTest::driveIsFollowedAcrossTheLoss() {
+    QFETCH(bool, isPulled);
+    QFETCH(QString, announced);
+    QFETCH(QString, drive);
+    QFETCH(bool, isAsked);
+    QVERIFY2(launcher->start(), launcher->errors());
+    QVERIFY(QDir().mkpath(mountPoint(u"sda1"_s)));
+    announceDrive(u"sda1"_s);
+    QTRY_VERIFY(!launcher->message().isEmpty());
+    QVERIFY(launcher->press(u"Нет"_s));
+    QTRY_COMPARE(launcher->message(), QString());
+
+    loseTheBus();
+    if (isPulled)
+        QVERIFY(QDir().rmdir(mountPoint(u"sda1"_s)));
+    QVERIFY(bus->restart());
+    waitUntilItIsBack();
+    announceDrive(announced);
+    // Comes behind the drive.
+    simulate(u"card insert gbe 7"_s, launcher->environment);
+    QTRY_COMPARE(launcher->selectorTexts().size(), 2);
+    QCOMPARE(storedDrive(), drive);
+    QCOMPARE(!launcher->message().isEmpty(), isAsked);
+}
+
+QTEST_GUILESS_MAIN(InstalledBusTest)
+#include "tst_installedbus.moc"
