@@ -32,7 +32,9 @@ SavedReport writeReport(const QString &directory, const QString &stem, const QSt
     const QString name = freeName(QDir(directory), stem);
     QSaveFile file(directory + u'/' + name);
     const QByteArray bytes = text.toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // What is too short to leave the buffer before would fail in commit() without being told.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         return {{}, file.errorString()};
     return {name, {}};
 }

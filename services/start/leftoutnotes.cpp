@@ -59,7 +59,9 @@ void writeNotes(const QString &directory, const QList<Replacement> &replaced) {
                                {u"trace"_s, replacement.trace}};
         QSaveFile file(u"%1/%2.json"_s.arg(directory).arg(replacement.notice));
         const QByteArray bytes = QJsonDocument(note).toJson();
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+        // commit() does not tell what fails on the way out of the buffer.
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+            !file.commit())
             std::fprintf(stderr, "The notice %s cannot be written: %s\n", qPrintable(file.fileName()),
                          qPrintable(file.errorString()));
     }

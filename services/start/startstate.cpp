@@ -96,7 +96,9 @@ StartState readState(const QString &name) {
 void writeState(const QString &name, const StartState &state) {
     QSaveFile file(name);
     const QByteArray bytes = toBytes(state);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    // commit() does not tell what fails on the way out of the buffer.
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
         std::fprintf(stderr, "A failed run cannot be remembered in %s: %s\n", qPrintable(name),
                      qPrintable(file.errorString()));
 }

@@ -42,6 +42,7 @@ private slots:
     void takenNamesAreNotOverwritten();
     void danglingLinkIsNotWrittenThrough();
     void fileInTheDirectorysPlaceIsAnError();
+    void fullDiskLeavesNothingBehind_data();
     void fullDiskLeavesNothingBehind();
 };
 
@@ -84,12 +85,19 @@ void ReportWriterTest::fileInTheDirectorysPlaceIsAnError() {
     QCOMPARE(tree.read(u"reports"_s), "a file"_ba);
 }
 
+void ReportWriterTest::fullDiskLeavesNothingBehind_data() {
+    QTest::addColumn<int>("characters");
+    QTest::newRow("less than a buffer") << 2000;
+    QTest::newRow("more than a buffer") << 100'000;
+}
+
 void ReportWriterTest::fullDiskLeavesNothingBehind() {
+    QFETCH(int, characters);
     const FileTree tree;
     SavedReport report;
     {
         const FileSizeLimit limit(1000);
-        report = writeReport(tree.path(), u"report"_s, QString(100'000, u'x'));
+        report = writeReport(tree.path(), u"report"_s, QString(characters, u'x'));
     }
     QVERIFY(report.name.isEmpty());
     QVERIFY(!report.error.isEmpty());
