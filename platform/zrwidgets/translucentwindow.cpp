@@ -154,6 +154,14 @@ void TranslucentWindow::keyPressEvent(QKeyEvent *event) {
     case Qt::Key_Right:
         focusNextChild();
         break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Left to itself a dialog would press its default button, whichever one the user has gone to.
+        if (auto *const button = qobject_cast<QPushButton *>(focusWidget())) {
+            button->click();
+            break;
+        }
+        [[fallthrough]];
     default:
         QDialog::keyPressEvent(event);
     }

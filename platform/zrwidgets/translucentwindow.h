@@ -21,8 +21,8 @@ public:
     /// `dimming` is how dark the rest becomes, from 0 (as it is) to 255 (nothing is seen of it).
     TranslucentWindow(QWidget *parent, int sideMargin, int edgeMargin, int dimming);
 
-    /// A button of the height and type that dialogs have; `isDefault`: Enter presses it wherever the focus is. The dialog
-    /// becomes its parent until a layout says otherwise.
+    /// A button of the height and type that dialogs have; `isDefault`: Enter presses it unless another
+    /// button has the focus. The dialog becomes its parent until a layout says otherwise.
     QPushButton *createButton(const QString &text, bool isDefault);
     /// Puts `content` in the middle, below what was added before, with that many pixels around it.
     void addContent(QWidget *content, int left, int top, int right, int bottom);

@@ -40,6 +40,8 @@ private slots:
     void noIsStored();
     void keysReject_data();
     void keysReject();
+    void enterPressesTheButtonThatHasTheFocus_data();
+    void enterPressesTheButtonThatHasTheFocus();
     void yesBeginsTheExportAndTheDialogStays();
     void finishedCopyIsStored();
     void keysDoNotEndARunningCopy();
@@ -189,6 +191,26 @@ void FlashDialogTest::keysReject() {
     QFETCH(Qt::Key, key);
     showWhile([&] { QTest::keyClick(dialog, key); });
     QCOMPARE(save(), u"false"_s);
+}
+
+void FlashDialogTest::enterPressesTheButtonThatHasTheFocus_data() {
+    QTest::addColumn<QString>("focused");
+    QTest::addColumn<int>("exported");
+    QTest::newRow("Yes") << u"Yes"_s << 1;
+    QTest::newRow("No") << u"No"_s << 0;
+}
+
+void FlashDialogTest::enterPressesTheButtonThatHasTheFocus() {
+    QFETCH(QString, focused);
+    QFETCH(int, exported);
+    const QSignalSpy exports(dialog, &FlashDialog::exportFiles);
+    showWhile([&] {
+        button(focused)->setFocus();
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+        dialog->closeGracefully();
+    });
+    QCOMPARE(exports.size(), exported);
+    QVERIFY(!dialog->isVisible());
 }
 
 void FlashDialogTest::yesBeginsTheExportAndTheDialogStays() {

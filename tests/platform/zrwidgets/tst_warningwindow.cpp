@@ -27,6 +27,7 @@ private slots:
     void questionIsAnsweredByButtonAndKey();
     void questionOverAMessageBringsTheMessageBack();
     void focusGoesFromButtonToButton();
+    void enterPressesTheButtonThatHasTheFocus();
     void textIsShownAsItIs_data();
     void textIsShownAsItIs();
     void longTextScrollsByKeys();
@@ -168,6 +169,14 @@ void WarningWindowTest::focusGoesFromButtonToButton() {
     QVERIFY(first && second);
     QVERIFY(first != second);
     QCOMPARE(third, first);
+}
+
+void WarningWindowTest::enterPressesTheButtonThatHasTheFocus() {
+    const int answer = ask([&] {
+        button(u"No"_s)->setFocus();
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+    });
+    QCOMPARE(answer, 0);
 }
 
 void WarningWindowTest::textIsShownAsItIs_data() {
