@@ -10,6 +10,7 @@
 #include "ui/launcherwindow.h"
 
 #include <qwsserver.h>
+#include <surfacekeeper.h>
 #include <styleoverride.h>
 
 #include <QApplication>
@@ -58,6 +59,7 @@ int main(int argc, char *argv[]) {
 
     const QApplication application(argc, argv);
     const TerminationSignals terminationSignals;
+    const SurfaceKeeper surfaceKeeper;
     QWSServer::setCursorVisible(false);
     QCoreApplication::installTranslator(&translator);
     registerInstallation();
