@@ -29,8 +29,10 @@ function(zr_install_library target)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:zr_warnings>)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-        EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN")
-    set_property(GLOBAL APPEND PROPERTY ZR_LIBRARY_DIRS ${CMAKE_CURRENT_BINARY_DIR})
+        EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN"
+        # One directory for all, as when they are installed: the dynamic linker looks for each library of Qt's in all of
+        # ours first.
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})
     install(TARGETS ${target} EXPORT ZrLauncherTargets LIBRARY
         DESTINATION ${CMAKE_INSTALL_LIBDIR} NAMELINK_COMPONENT dev)
     install(FILES ${arg_HEADERS} DESTINATION ${ZR_INCLUDE_DIR}/${target} COMPONENT dev)
