@@ -84,9 +84,10 @@ QFrame *FlashDialog::makeProgressFrame() {
     progressBar = new QProgressBar;
     progressBar->setRange(0, fullBar);
     progressBar->setValue(0);
-    progressBar->setVisible(true);
     progressBar->setTextVisible(false);
     row->addWidget(progressBar, 0);
+    // Only now: without a parent it would be shown as a window of its own.
+    progressBar->setVisible(true);
     row->addItem(new QSpacerItem(spaceBesideBar.width(), spaceBesideBar.height(), QSizePolicy::Minimum,
                                  QSizePolicy::Minimum));
     return frame;
