@@ -4,6 +4,7 @@
 #include "darkpalette.h"
 #include "fittedtext.h"
 #include "presskeys.h"
+#include "tilebody.h"
 #include "tintedpicture.h"
 
 #include <QKeyEvent>
@@ -20,9 +21,9 @@ constexpr int textRight = 12;
 constexpr int textTop = 6;
 constexpr int boxSize = 28;
 constexpr int gapBeforeBox = 8;
-constexpr qreal radius = 10;
 constexpr qreal pressedLineWidth = 2;
 constexpr qreal pressedInset = 4;
+constexpr qreal pressedRadius = 6;
 
 } // namespace
 
@@ -64,16 +65,17 @@ void IconTile::paintEvent(QPaintEvent *) {
 }
 
 void IconTile::drawGround(QPainter &painter, bool isLit) const {
-    const QRectF ground(rect());
-    painter.setPen(QPen(palette().color(isLit ? QPalette::Highlight : QPalette::Midlight), 1));
-    painter.setBrush(isLit ? palette().highlight() : palette().base());
-    painter.drawRoundedRect(ground.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    const TileBody body{size(), devicePixelRatioF(),
+                        palette().color(isLit ? QPalette::Highlight : QPalette::Base),
+                        palette().color(isLit ? QPalette::Highlight : QPalette::Midlight)};
+    painter.drawImage(0, 0, body.picture());
     if (!isDown())
         return;
     // A checked tile is lit already.
     painter.setPen(QPen(palette().color(QPalette::HighlightedText), pressedLineWidth));
-    painter.drawRoundedRect(ground.adjusted(pressedInset, pressedInset, -pressedInset, -pressedInset),
-                            radius - pressedInset, radius - pressedInset);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(pressedInset, pressedInset, -pressedInset, -pressedInset),
+                            pressedRadius, pressedRadius);
 }
 
 int IconTile::textMargin() const {
