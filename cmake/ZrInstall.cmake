@@ -27,6 +27,9 @@ function(zr_install_library target)
         $<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>
         $<INSTALL_INTERFACE:${ZR_INCLUDE_DIR}/${target}>)
     target_link_libraries(${target} PRIVATE $<BUILD_INTERFACE:zr_warnings>)
+    # Its own functions need not be looked up by name at every start. Those who compile against Qt take addresses of
+    # functions from the library itself, so that signals still compare equal.
+    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
         EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN"
