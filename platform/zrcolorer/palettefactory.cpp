@@ -32,9 +32,13 @@ Palettes makePalettes(PaletteFactory::Set set) {
 }
 
 const Palettes &currentPalettes() {
+    // Each is made when it is first worn: most starts need one only.
+    if (currentSet == PaletteFactory::Night) {
+        static const Palettes night = makePalettes(PaletteFactory::Night);
+        return night;
+    }
     static const Palettes day = makePalettes(PaletteFactory::Day);
-    static const Palettes night = makePalettes(PaletteFactory::Night);
-    return currentSet == PaletteFactory::Night ? night : day;
+    return day;
 }
 
 } // namespace
