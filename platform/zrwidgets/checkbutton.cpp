@@ -41,11 +41,16 @@ QSize CheckButton::sizeHint() const {
 }
 
 QSize CheckButton::minimumSizeHint() const {
-    const QFontMetrics metrics(FontSizes::sized(font(), FontSizes::Small, QFont::Bold));
     const QString words = text().simplified().replace(u' ', u'\n');
-    const int widestWord = words.size() > mostLetters ? widestMinimum : metrics.size(0, words).width();
+    const qreal widestWord = words.size() > mostLetters ? widestMinimum : smallestWordWidth(words);
     return {qBound(smallestWidth, qCeil(tightening * widestWord) + 2 * tightPadding, widestMinimum),
             buttonHeight};
+}
+
+qreal CheckButton::smallestWordWidth(const QString &words) const {
+    // Not measured in small letters: these would be loaded for that alone, although most buttons never show them.
+    const QFont shown = textFont();
+    return qreal(QFontMetrics(shown).size(0, words).width() * FontSizes::Small) / shown.pixelSize();
 }
 
 void CheckButton::paintEvent(QPaintEvent *) {

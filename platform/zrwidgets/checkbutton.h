@@ -21,4 +21,5 @@ protected:
 
 private:
     QFont textFont() const;
+    qreal smallestWordWidth(const QString &words) const;
 };
