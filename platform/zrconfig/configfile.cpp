@@ -153,6 +153,17 @@ bool isUnchangedSinceLastLook(const QFileInfo &info) {
     return false;
 }
 
+/// QSettings settles its directories at its first use, so a name stays; but asking for it reads the files every time.
+QString storeFile(QSettings::Scope scope, const QString &application) {
+    static QMutex nameMutex;
+    static QHash<std::pair<int, QString>, QString> knownNames;
+    const QMutexLocker lock(&nameMutex);
+    QString &name = knownNames[{scope, application}];
+    if (name.isEmpty())
+        name = QSettings(QSettings::NativeFormat, scope, u"talvenor"_s, application).fileName();
+    return name;
+}
+
 bool flushDescriptor(const QString &path, int flags) {
     const int descriptor = ::open(QFile::encodeName(path), flags | O_CLOEXEC);
     if (descriptor < 0)
@@ -169,11 +180,11 @@ QString damageIn(QByteArrayView text) {
 }
 
 QString userStoreFile(const QString &application) {
-    return QSettings(QSettings::NativeFormat, QSettings::UserScope, u"talvenor"_s, application).fileName();
+    return storeFile(QSettings::UserScope, application);
 }
 
 QString systemStoreFile(const QString &application) {
-    return QSettings(QSettings::NativeFormat, QSettings::SystemScope, u"talvenor"_s, application).fileName();
+    return storeFile(QSettings::SystemScope, application);
 }
 
 void tellDamagedSystemStore(const QString &file) {
