@@ -111,11 +111,11 @@
     </message>
     <message>
         <source>The card closed the line.</source>
-        <translation>Карта закрыла линию.</translation>
+        <translation>Карта разорвала соединение.</translation>
     </message>
     <message>
         <source>The card&apos;s reply has no end.</source>
-        <translation>Ответ карты не имеет конца.</translation>
+        <translation>Ответ карты не завершён.</translation>
     </message>
     <message>
         <source>The card did not answer in time.</source>
@@ -134,7 +134,7 @@
     </message>
     <message>
         <source>The copying program did not understand its orders.</source>
-        <translation>Программа копирования не поняла задание.</translation>
+        <translation>Программа копирования получила неверные параметры.</translation>
     </message>
     <message>
         <source>The parts of the copying program do not fit together.</source>
@@ -142,15 +142,15 @@
     </message>
     <message>
         <source>What is to be copied, or the place for it, is not there.</source>
-        <translation>Нет того, что нужно скопировать, или места для копии.</translation>
+        <translation>Не найдены исходные файлы или папка для копии.</translation>
     </message>
     <message>
         <source>The copying program cannot do what it was asked for.</source>
-        <translation>Программа копирования не умеет того, что от неё требуется.</translation>
+        <translation>Программа копирования не поддерживает требуемое действие.</translation>
     </message>
     <message>
         <source>The parts of the copying program could not begin to talk.</source>
-        <translation>Части программы копирования не смогли начать обмен.</translation>
+        <translation>Части программы копирования не смогли начать обмен данными.</translation>
     </message>
     <message>
         <source>The copying program cannot write its log.</source>
@@ -166,7 +166,7 @@
     </message>
     <message>
         <source>The copying program lost its data stream.</source>
-        <translation>Программа копирования потеряла поток данных.</translation>
+        <translation>Сбой в потоке данных программы копирования.</translation>
     </message>
     <message>
         <source>The copying program cannot tell what it does.</source>
@@ -178,7 +178,7 @@
     </message>
     <message>
         <source>The copy was ended before it was complete.</source>
-        <translation>Копирование прервано до его завершения.</translation>
+        <translation>Копирование прервано до завершения.</translation>
     </message>
     <message>
         <source>A part of the copying program could not be waited for.</source>
@@ -194,7 +194,7 @@
     </message>
     <message>
         <source>Some files vanished before they could be copied.</source>
-        <translation>Некоторые файлы исчезли раньше, чем были скопированы.</translation>
+        <translation>Некоторые файлы исчезли до того, как были скопированы.</translation>
     </message>
     <message>
         <source>The copying program would have had to delete too much.</source>
@@ -206,7 +206,7 @@
     </message>
     <message>
         <source>The other side of the copy took too long to answer.</source>
-        <translation>Вторая сторона копирования слишком долго не отвечала.</translation>
+        <translation>Другая сторона слишком долго не отвечала.</translation>
     </message>
     <message>
         <source>The copy failed for an unknown reason.</source>
@@ -221,7 +221,7 @@
     <name>FileContent</name>
     <message>
         <source>This file cannot be read.</source>
-        <translation>Этот файл не читается.</translation>
+        <translation>Этот файл не удаётся прочитать.</translation>
     </message>
     <message>
         <source>This picture is damaged.</source>
@@ -229,7 +229,7 @@
     </message>
     <message>
         <source>This picture is too large to be shown: %1 x %2 points.</source>
-        <translation>Изображение слишком велико для показа: %1 x %2 точек.</translation>
+        <translation>Изображение слишком велико для показа: %1 × %2 пикс.</translation>
     </message>
     <message>
         <source>The file is long; its beginning is shown.</source>
@@ -241,7 +241,7 @@
     </message>
     <message>
         <source>This is not a text; its first bytes are shown.</source>
-        <translation>Это не текст; показаны первые байты.</translation>
+        <translation>Это не текст, показаны его первые байты.</translation>
     </message>
 </context>
 <context>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>USB mass-storage device is plugged out</source>
-        <translation>USB-накопитель отключён</translation>
+        <translation>USB-накопитель извлечён</translation>
     </message>
     <message>
         <source>incorrect invocation or permissions</source>
@@ -288,11 +288,11 @@
     </message>
     <message>
         <source>system error (out of memory, cannot fork, no more loop devices)</source>
-        <translation>системная ошибка (нехватка памяти, процессов или петлевых устройств)</translation>
+        <translation>системная ошибка (нет памяти, не удалось создать процесс или нет свободных loop-устройств)</translation>
     </message>
     <message>
         <source>internal mount bug</source>
-        <translation>внутренняя ошибка программы mount</translation>
+        <translation>внутренняя ошибка команды mount</translation>
     </message>
     <message>
         <source>user interrupt</source>
@@ -304,18 +304,18 @@
     </message>
     <message>
         <source>mount failure</source>
-        <translation>ошибка подключения файловой системы</translation>
+        <translation>не удалось подключить файловую систему</translation>
     </message>
     <message>
         <source>some mount succeeded</source>
-        <translation>подключено лишь частично</translation>
+        <translation>подключены не все файловые системы</translation>
     </message>
 </context>
 <context>
     <name>FlashSpy</name>
     <message>
         <source>Only one flash card can be used. Please, remove currently installed</source>
-        <translation>Можно использовать только один флеш-накопитель. Извлеките установленный</translation>
+        <translation>Можно использовать только один флеш-накопитель. Извлеките уже установленный</translation>
     </message>
     <message>
         <source>Error %1:</source>
@@ -403,7 +403,7 @@ Tools</source>
     </message>
     <message>
         <source>No functions are configured for this instrument</source>
-        <translation>Для этого прибора не настроено ни одной функции</translation>
+        <translation>Для этого прибора не задано ни одной функции</translation>
     </message>
     <message>
         <source>They are listed in zr-launcher.conf, section [plugins].</source>
@@ -411,11 +411,11 @@ Tools</source>
     </message>
     <message>
         <source>No settings are configured for this instrument</source>
-        <translation>Для этого прибора не настроено ни одной группы настроек</translation>
+        <translation>Для этого прибора не задано ни одной настройки</translation>
     </message>
     <message>
         <source>No functions are configured for this card</source>
-        <translation>Для этой карты не настроено ни одной функции</translation>
+        <translation>Для этой карты не задано ни одной функции</translation>
     </message>
     <message>
         <source>They are listed in zr-launcher.conf, section [plugins], key &quot;%1&quot;.</source>
@@ -423,7 +423,7 @@ Tools</source>
     </message>
     <message>
         <source>Functions that could not be loaded: %1</source>
-        <translation>Не удалось загрузить функций: %1</translation>
+        <translation>Не загружено функций: %1</translation>
     </message>
     <message>
         <source>The launcher&apos;s log says why.</source>
@@ -434,11 +434,11 @@ Tools</source>
     <name>LeftOutNote</name>
     <message>
         <source>A plug-in was left out</source>
-        <translation>Подключаемый модуль исключён</translation>
+        <translation>Подключаемый модуль отключён</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation>Исключён: %1</translation>
+        <translation>Отключён: %1</translation>
     </message>
     <message>
         <source>Nothing more is known about it.</source>
@@ -446,7 +446,7 @@ Tools</source>
     </message>
     <message>
         <source>The program crashed in %1, %2 times within a minute. It is tried again the next time the instrument is switched on.</source>
-        <translation>Сбой программы произошёл в модуле %1, раз за минуту: %2. При следующем включении прибора модуль будет загружен снова.</translation>
+        <translation>Сбоев программы в модуле %1 за минуту: %2. При следующем включении прибора модуль будет загружен снова.</translation>
     </message>
 </context>
 <context>
@@ -572,11 +572,11 @@ Tools</source>
     </message>
     <message>
         <source>Read the figures of the System window anew every</source>
-        <translation>Обновлять показания окна «Система» каждые</translation>
+        <translation>Период обновления показаний окна «Система»</translation>
     </message>
     <message>
         <source>1 second</source>
-        <translation>1 секунду</translation>
+        <translation>1 секунда</translation>
     </message>
     <message>
         <source>2 seconds</source>
@@ -666,7 +666,7 @@ Tools</source>
     </message>
     <message>
         <source>Use</source>
-        <translation>Занятость</translation>
+        <translation>Заполнение</translation>
     </message>
     <message>
         <source>Used</source>
