@@ -10,7 +10,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qreal lampSize = 12;
 constexpr qreal ringWidth = 2;
 
 QPainterPath lampShape(MeasQuality quality, const QRectF &box) {
@@ -49,8 +48,8 @@ QColor lampColor(MeasQuality quality) {
     return colors.color(QPalette::Mid);
 }
 
-void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality) {
-    const qreal size = qMin(lampSize, qMin(rect.width(), rect.height()));
+void drawLamp(QPainter *painter, const QRectF &rect, MeasQuality quality, qreal largest) {
+    const qreal size = qMin(largest, qMin(rect.width(), rect.height()));
     QRectF box(0, 0, size, size);
     box.moveCenter(rect.center());
     painter->save();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ledpanel.h"
 
-#include "fontsizes.h"
 #include "lamp.h"
 #include "presskeys.h"
 
@@ -9,15 +8,18 @@
 #include <QKeyEvent>
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int tallestRow = 25;
-// Lower rows would be too dense to be read from two metres.
+constexpr int tallestRow = 32;
+// Lower rows would be too dense to be told apart.
 constexpr int lowestRow = 17;
 constexpr int columnWidth = 76;
-constexpr int lampWidth = 26;
+constexpr int lampWidth = 24;
+constexpr int largestLamp = 18;
 constexpr int padding = 6;
 constexpr qreal radius = 10;
 constexpr int markWidth = 3;
@@ -25,17 +27,28 @@ constexpr int shortestMark = 24;
 // Nobody can read more than this beside a lamp; measuring 64 KiB of text would only cost time.
 constexpr qsizetype longestShownName = 64;
 
+// Of its width, in percent: no name is set tighter.
+constexpr int tightest = 60;
+
+QString shownPart(const QString &name) {
+    return name.first(qMin(name.size(), longestShownName));
+}
+
+/// Whether letters of that size leave some room between rows of that height.
+bool fitsRow(FontSizes::PixelSize size, int rowHeight) {
+    return 5 * size <= 4 * rowHeight;
+}
+
 /// The font in which the name fits, down to three fifths of its width; the rest is cut with an ellipsis.
 QFont fittingFont(const QFont &font, const QString &name, int width) {
     const int needed = QFontMetrics(font).horizontalAdvance(name);
     if (needed <= qMax(0, width))
         return font;
     QFont tight = font;
-    constexpr int tightest = 60;
-    tight.setPixelSize(FontSizes::Small);
-    // Hinting makes letters a little wider than their share.
-    constexpr int step = 4;
-    for (int stretch = qMax(100 * width / needed, tightest); stretch >= tightest; stretch -= step) {
+    // Hinting makes letters a little wider than their share. Few widths, for each of them takes memory.
+    constexpr int step = 5;
+    const int share = 100 * width / needed / step * step;
+    for (int stretch = qMax(share, tightest); stretch >= tightest; stretch -= step) {
         tight.setStretch(stretch);
         if (QFontMetrics(tight).horizontalAdvance(name) <= width)
             break;
@@ -58,7 +71,7 @@ void LedPanel::setRounded(bool rounded) {
 
 void LedPanel::setMargins(int left, int top, int right, int bottom) {
     ledMargins = QMargins(left, top, right, bottom);
-    update();
+    chooseLetters();
 }
 
 void LedPanel::clear(bool rebuild) {
@@ -75,7 +88,7 @@ void LedPanel::add(const QString &name, MeasQuality quality) {
 
 void LedPanel::invokeRebuild() {
     scrollOffset = 0;
-    update();
+    chooseLetters();
 }
 
 void LedPanel::update(QList<QPair<QString, QString>> &data) {
@@ -118,6 +131,32 @@ int LedPanel::rowHeight() const {
     if (isHorizontal || leds.isEmpty())
         return tallestRow;
     return qBound(lowestRow, ledArea().height() / int(leds.size()), tallestRow);
+}
+
+QRect LedPanel::nameRect(const QRect &ledRect) const {
+    // The mark beside the names needs its room whether it is there or not, so that names keep their width.
+    return ledRect.adjusted(lampWidth, 0, isHorizontal ? -2 : -markWidth, 0);
+}
+
+bool LedPanel::areNamesShownIn(FontSizes::PixelSize size) const {
+    if (!fitsRow(size, rowHeight()))
+        return false;
+    const QFontMetrics metrics(FontSizes::sized(font(), size, QFont::Bold));
+    const int width = 100 * nameRect(ledRect(0)).width() / (tightest + 5);
+    return std::all_of(leds.cbegin(), leds.cend(), [&](const Led &led) {
+        return metrics.horizontalAdvance(shownPart(led.name)) <= width;
+    });
+}
+
+void LedPanel::chooseLetters() {
+    letters = FontSizes::Small;
+    for (const auto size : {FontSizes::Title, FontSizes::Large, FontSizes::Text}) {
+        if (areNamesShownIn(size)) {
+            letters = size;
+            break;
+        }
+    }
+    update();
 }
 
 QRect LedPanel::ledRect(qsizetype index) const {
@@ -182,12 +221,12 @@ void LedPanel::paintEvent(QPaintEvent *event) {
 }
 
 void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) const {
-    drawLamp(painter, QRect(rect.x(), rect.y(), lampWidth, rect.height()), led.quality);
-    // The mark beside the names needs its room whether it is there or not, so that names keep their width.
-    const QRect textRect = rect.adjusted(lampWidth, 0, isHorizontal ? -2 : -markWidth, 0);
-    const QString name = led.name.first(qMin(led.name.size(), longestShownName));
+    drawLamp(painter, QRect(rect.x(), rect.y(), lampWidth, rect.height()), led.quality,
+             qMin<int>(letters - 2, largestLamp));
+    const QRect textRect = nameRect(rect);
+    const QString name = shownPart(led.name);
     const QFont font =
-        fittingFont(FontSizes::sized(this->font(), FontSizes::Small, QFont::Bold), name, textRect.width());
+        fittingFont(FontSizes::sized(this->font(), letters, QFont::Bold), name, textRect.width());
     painter->setFont(font);
     painter->setPen(palette().color(QPalette::Text));
     // Widths are rounded, and eliding would cut a name that only just fits.
@@ -198,6 +237,7 @@ void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) con
 }
 
 void LedPanel::resizeEvent(QResizeEvent *) {
+    chooseLetters();
     scrollTo(scrollOffset);
 }
 

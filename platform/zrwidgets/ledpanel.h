@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "fontsizes.h"
 #include "measquality.h"
 
 #include <QHash>
@@ -11,10 +12,11 @@
 
 /// A panel of named lamps.
 ///
-/// A lamp's shape and colour tell its state (see drawLamp), its name stands beside it and is set tighter where
-/// it is too long. Rows shrink from 25 to 17 pixels when there are many; what does not fit then is reached by
-/// dragging, by the wheel or by the arrow keys, and a mark at the edge shows how far one has come. A drag is no
-/// press. Only lamps that changed are painted again. GUI thread only.
+/// A lamp's shape and colour tell its state (see drawLamp), its name stands beside it. Rows shrink from 32 to 17
+/// pixels when there are many; what does not fit then is reached by dragging, by the wheel or by the arrow keys, and
+/// a mark at the edge shows how far one has come. All names have the largest letters that the rows and the longest
+/// name allow, and names that are too long are set tighter. A drag is no press. Only lamps that changed are painted
+/// again. GUI thread only.
 class LedPanel : public QWidget {
     Q_OBJECT
 
@@ -68,6 +70,9 @@ private:
     QRect ledArea() const;
     int rowHeight() const;
     QRect ledRect(qsizetype index) const;
+    QRect nameRect(const QRect &ledRect) const;
+    bool areNamesShownIn(FontSizes::PixelSize size) const;
+    void chooseLetters();
     int ledLength() const;
     int shownLength() const;
     int farthestOffset() const;
@@ -82,6 +87,7 @@ private:
     bool isRounded = false;
     bool isDragged = false;
     int scrollOffset = 0;
+    FontSizes::PixelSize letters = FontSizes::Small;
     QPoint pressPosition;
     int offsetAtPress = 0;
 };

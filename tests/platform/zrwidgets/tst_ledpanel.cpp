@@ -35,6 +35,27 @@ void addLamps(LedPanel &panel, int count) {
     panel.invokeRebuild();
 }
 
+/// Height of the first name's capitals, in pixels.
+int capitalHeight(LedPanel &panel) {
+    constexpr int namesLeft = 24;
+    const QImage picture = panel.grab().toImage();
+    const QColor ground = panel.palette().color(QPalette::Base);
+    const auto isInked = [&](int y) {
+        for (int x = namesLeft; x < picture.width() - 4; ++x) {
+            if (picture.pixelColor(x, y) != ground)
+                return true;
+        }
+        return false;
+    };
+    int top = 0;
+    while (top < picture.height() && !isInked(top))
+        ++top;
+    int bottom = top;
+    while (bottom < picture.height() && isInked(bottom))
+        ++bottom;
+    return bottom - top;
+}
+
 QImage lampPicture(MeasQuality quality) {
     QImage picture(20, 20, QImage::Format_RGB32);
     picture.fill(Qt::black);
@@ -64,6 +85,8 @@ private slots:
     void dragIsNoClickAndAPressAfterItIs();
     void markShowsThatThereIsMore_data();
     void markShowsThatThereIsMore();
+    void lettersAreAsLargeAsRowsAndNamesAllow_data();
+    void lettersAreAsLargeAsRowsAndNamesAllow();
     void hugeInputIsDrawnInNoTime();
     void anyWidthIsDrawn();
 };
@@ -122,7 +145,7 @@ void LedPanelTest::onlyTheChangedLampIsPaintedAgain() {
     States states{{u"AIS"_s, u"present"_s}};
     panel.update(states);
     QTRY_VERIFY(!panel.painted.isEmpty());
-    QCOMPARE(panel.painted.boundingRect().height(), 25);
+    QCOMPARE(panel.painted.boundingRect().height(), 32);
 }
 
 void LedPanelTest::unchangedStatesPaintNothing() {
@@ -150,8 +173,8 @@ void LedPanelTest::allLampsOfANameFollow() {
     States states{{u"LOS"_s, u"present"_s}};
     panel.update(states);
     const QImage picture = panel.grab().toImage();
-    QCOMPARE(picture.pixelColor(13, 6 + 12), lampColor(Bad));
-    QCOMPARE(picture.pixelColor(13, 6 + 25 + 12), lampColor(Bad));
+    QCOMPARE(picture.pixelColor(12, 6 + 16), lampColor(Bad));
+    QCOMPARE(picture.pixelColor(12, 6 + 32 + 16), lampColor(Bad));
 }
 
 void LedPanelTest::rebuildWaitsUntilItIsAskedFor() {
@@ -196,12 +219,12 @@ void LedPanelTest::manyLampsCanBeScrolled() {
     for (int i = 0; i < 50; ++i)
         panel.add(u"LED%1"_s.arg(i), i < 25 ? Good : Bad);
     panel.invokeRebuild();
-    const QPoint lowestLamp(13, 6 + 10 * 17 - 9);
+    const QPoint lowestLamp(12, 6 + 10 * 17 - 9);
     QCOMPARE(panel.grab().toImage().pixelColor(lowestLamp), lampColor(Good));
     QTest::mousePress(&panel, Qt::LeftButton, {}, QPoint(40, 190));
     QTest::mouseMove(&panel, QPoint(40, -2000));
     QTest::mouseRelease(&panel, Qt::LeftButton, {}, QPoint(40, 190));
-    QCOMPARE(panel.grab().toImage().pixelColor(13, 200 - 6 - 9), lampColor(Bad));
+    QCOMPARE(panel.grab().toImage().pixelColor(12, 200 - 6 - 9), lampColor(Bad));
 }
 
 void LedPanelTest::arrowKeysScroll() {
@@ -249,6 +272,43 @@ void LedPanelTest::markShowsThatThereIsMore() {
     addLamps(panel, lamps);
     const QColor mark = panel.grab().toImage().pixelColor(72 - 3, 20);
     QCOMPARE(mark != panel.palette().color(QPalette::Base), isMarked);
+}
+
+void LedPanelTest::lettersAreAsLargeAsRowsAndNamesAllow_data() {
+    QTest::addColumn<int>("lamps");
+    QTest::addColumn<int>("height");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("leastHeight");
+    QTest::addColumn<int>("mostHeight");
+    // Capitals are seven tenths of the size of the letters: 22, 20, 18 or 14 pixels.
+    QTest::newRow("4 on the low screen") << 4 << 310 << u"LIH"_s << 15 << 17;
+    QTest::newRow("4 on the high screen") << 4 << 430 << u"LIH"_s << 15 << 17;
+    QTest::newRow("12 on the low screen") << 12 << 310 << u"LIH"_s << 13 << 15;
+    QTest::newRow("12 on the high screen") << 12 << 430 << u"LIH"_s << 15 << 17;
+    QTest::newRow("24 on the low screen") << 24 << 310 << u"LIH"_s << 10 << 11;
+    QTest::newRow("24 on the high screen") << 24 << 430 << u"LIH"_s << 10 << 11;
+    QTest::newRow("long name") << 4 << 310 << u"PATTEN"_s << 10 << 11;
+}
+
+void LedPanelTest::lettersAreAsLargeAsRowsAndNamesAllow() {
+    QFETCH(int, lamps);
+    QFETCH(int, height);
+    QFETCH(QString, name);
+    QFETCH(int, leastHeight);
+    QFETCH(int, mostHeight);
+    LedPanel panel(nullptr, false);
+    panel.setMargins(1, 0, 2, 4);
+    panel.resize(72, height);
+    for (int i = 0; i < lamps; ++i)
+        panel.add(name, Good);
+    panel.invokeRebuild();
+    const int capitals = capitalHeight(panel);
+    const QString failure = u"%1 pixels"_s.arg(capitals);
+    QVERIFY2(capitals >= leastHeight, qPrintable(failure));
+    QVERIFY2(capitals <= mostHeight, qPrintable(failure));
+    // The panel may become lower later.
+    panel.resize(72, lamps * 17 + 16);
+    QVERIFY(capitalHeight(panel) <= 11);
 }
 
 void LedPanelTest::anyWidthIsDrawn() {
