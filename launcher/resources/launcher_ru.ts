@@ -532,6 +532,155 @@ Tools</source>
     </message>
 </context>
 <context>
+    <name>QAbstractSocket</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>в соединении отказано</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>истекло время ожидания соединения</translation>
+    </message>
+    <message>
+        <source>Host not found</source>
+        <translation>узел не найден</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>сеть недоступна</translation>
+    </message>
+    <message>
+        <source>Socket operation timed out</source>
+        <translation>истекло время ожидания</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>удалённый узел закрыл соединение</translation>
+    </message>
+</context>
+<context>
+    <name>QHostInfo</name>
+    <message>
+        <source>Unknown error</source>
+        <translation>неизвестная ошибка</translation>
+    </message>
+</context>
+<context>
+    <name>QHostInfoAgent</name>
+    <message>
+        <source>Host not found</source>
+        <translation>узел не найден</translation>
+    </message>
+    <message>
+        <source>Temporary error</source>
+        <translation>временная ошибка</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>неизвестная ошибка</translation>
+    </message>
+</context>
+<context>
+    <name>QIODevice</name>
+    <message>
+        <source>No space left on device</source>
+        <translation>на накопителе нет места</translation>
+    </message>
+    <message>
+        <source>No such file or directory</source>
+        <translation>нет такого файла или папки</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>доступ запрещён</translation>
+    </message>
+    <message>
+        <source>Too many open files</source>
+        <translation>открыто слишком много файлов</translation>
+    </message>
+</context>
+<context>
+    <name>QLocalSocket</name>
+    <message>
+        <source>%1: Connection error</source>
+        <translation>%1: ошибка соединения</translation>
+    </message>
+    <message>
+        <source>%1: Connection refused</source>
+        <translation>%1: в соединении отказано</translation>
+    </message>
+    <message>
+        <source>%1: Invalid name</source>
+        <translation>%1: неверное имя</translation>
+    </message>
+    <message>
+        <source>%1: Remote closed</source>
+        <translation>%1: соединение закрыто другой стороной</translation>
+    </message>
+    <message>
+        <source>%1: Socket access error</source>
+        <translation>%1: нет доступа к сокету</translation>
+    </message>
+    <message>
+        <source>%1: Socket operation timed out</source>
+        <translation>%1: истекло время ожидания</translation>
+    </message>
+    <message>
+        <source>%1: Socket resource error</source>
+        <translation>%1: не хватает ресурсов для сокета</translation>
+    </message>
+    <message>
+        <source>%1: Unknown error %2</source>
+        <translation>%1: неизвестная ошибка %2</translation>
+    </message>
+</context>
+<context>
+    <name>QMessageBox</name>
+    <message>
+        <source>Show Details...</source>
+        <translation>Подробнее...</translation>
+    </message>
+    <message>
+        <source>Hide Details...</source>
+        <translation>Скрыть подробности...</translation>
+    </message>
+</context>
+<context>
+    <name>QNativeSocketEngine</name>
+    <message>
+        <source>Connection refused</source>
+        <translation>в соединении отказано</translation>
+    </message>
+    <message>
+        <source>Connection timed out</source>
+        <translation>истекло время ожидания соединения</translation>
+    </message>
+    <message>
+        <source>Host unreachable</source>
+        <translation>узел недоступен</translation>
+    </message>
+    <message>
+        <source>Network error</source>
+        <translation>ошибка сети</translation>
+    </message>
+    <message>
+        <source>Network unreachable</source>
+        <translation>сеть недоступна</translation>
+    </message>
+    <message>
+        <source>Permission denied</source>
+        <translation>доступ запрещён</translation>
+    </message>
+    <message>
+        <source>The remote host closed the connection</source>
+        <translation>удалённый узел закрыл соединение</translation>
+    </message>
+    <message>
+        <source>Unknown error</source>
+        <translation>неизвестная ошибка</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Do you really mean to power off device?</source>
@@ -544,6 +693,100 @@ Tools</source>
     <message>
         <source>No</source>
         <translation>Нет</translation>
+    </message>
+</context>
+<context>
+    <name>QPlatformTheme</name>
+    <message>
+        <source>OK</source>
+        <translation>ОК</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Save All</source>
+        <translation>Сохранить всё</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Да</translation>
+    </message>
+    <message>
+        <source>Yes to &amp;All</source>
+        <translation>Да для &amp;всех</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Нет</translation>
+    </message>
+    <message>
+        <source>N&amp;o to All</source>
+        <translation>Н&amp;ет для всех</translation>
+    </message>
+    <message>
+        <source>Abort</source>
+        <translation>Прервать</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation>Пропустить</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Discard</source>
+        <translation>Не сохранять</translation>
+    </message>
+    <message>
+        <source>Help</source>
+        <translation>Справка</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Restore Defaults</source>
+        <translation>По умолчанию</translation>
+    </message>
+</context>
+<context>
+    <name>QSerialPort</name>
+    <message>
+        <source>Device disappeared from the system</source>
+        <translation>устройство исчезло из системы</translation>
+    </message>
+    <message>
+        <source>Device is already open</source>
+        <translation>устройство уже открыто</translation>
+    </message>
+    <message>
+        <source>Permission error while creating lock file</source>
+        <translation>нет прав на создание файла блокировки</translation>
+    </message>
+    <message>
+        <source>Permission error while locking the device</source>
+        <translation>нет прав на блокировку устройства</translation>
     </message>
 </context>
 <context>

@@ -5,7 +5,6 @@
 #include <QSaveFile>
 
 #include <cerrno>
-#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,7 +27,7 @@ QString freeName(const QDir &directory, const QString &stem) {
 SavedReport writeReport(const QString &directory, const QString &stem, const QString &text) {
     errno = 0;
     if (!QDir().mkpath(directory))
-        return {{}, QString::fromStdString(std::generic_category().message(errno ? errno : ENOTDIR))};
+        return {{}, qt_error_string(errno ? errno : ENOTDIR)};
     const QString name = freeName(QDir(directory), stem);
     QSaveFile file(directory + u'/' + name);
     const QByteArray bytes = text.toUtf8();

@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <memory>
-#include <system_error>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -17,10 +16,6 @@ using Directory = std::unique_ptr<DIR, int (*)(DIR *)>;
 
 Directory openDirectory(const QString &directory) {
     return {::opendir(QFile::encodeName(directory).constData()), ::closedir};
-}
-
-QString systemError(int number) {
-    return QString::fromStdString(std::generic_category().message(number));
 }
 
 std::optional<ReportFile> fileAt(int directory, const char *name) {
@@ -45,7 +40,7 @@ ReportListing reportsIn(const QString &directory, qsizetype mostFiles) {
     const Directory entries = openDirectory(directory);
     if (!entries) {
         if (errno != ENOENT)
-            listing.error = systemError(errno);
+            listing.error = qt_error_string(errno);
         return listing;
     }
     while (const dirent *const entry = ::readdir(entries.get())) {
@@ -84,10 +79,10 @@ bool openReport(QFile &file, const QString &directory, const QByteArray &name) {
 
 std::optional<QString> deleteReport(const QString &directory, const QByteArray &name) {
     if (name.contains('/'))
-        return systemError(EINVAL);
+        return qt_error_string(EINVAL);
     const Directory entries = openDirectory(directory);
     // Unlinking never follows a link.
     if (!entries || ::unlinkat(::dirfd(entries.get()), name.constData(), 0) != 0)
-        return systemError(errno);
+        return qt_error_string(errno);
     return std::nullopt;
 }

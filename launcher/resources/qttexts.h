@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Qt's own texts that reach the user: reasons behind "Report not saved: %1" and "The card cannot be reached: %1.", and
+// the buttons of a plug-in's dialogs. Nothing includes this file; lupdate finds the texts here and keeps them in the
+// catalogue, where Qt looks them up.
+#pragma once
+
+#include <QtGlobal>
+
+inline constexpr const char *qtTexts[] = {
+    QT_TRANSLATE_NOOP("QIODevice", "No space left on device"),
+    QT_TRANSLATE_NOOP("QIODevice", "No such file or directory"),
+    QT_TRANSLATE_NOOP("QIODevice", "Permission denied"),
+    QT_TRANSLATE_NOOP("QIODevice", "Too many open files"),
+
+    QT_TRANSLATE_NOOP("QAbstractSocket", "Connection refused"),
+    QT_TRANSLATE_NOOP("QAbstractSocket", "Connection timed out"),
+    QT_TRANSLATE_NOOP("QAbstractSocket", "Host not found"),
+    QT_TRANSLATE_NOOP("QAbstractSocket", "Network unreachable"),
+    QT_TRANSLATE_NOOP("QAbstractSocket", "Socket operation timed out"),
+    QT_TRANSLATE_NOOP("QAbstractSocket", "The remote host closed the connection"),
+    QT_TRANSLATE_NOOP("QHostInfo", "Unknown error"),
+    QT_TRANSLATE_NOOP("QHostInfoAgent", "Host not found"),
+    QT_TRANSLATE_NOOP("QHostInfoAgent", "Temporary error"),
+    QT_TRANSLATE_NOOP("QHostInfoAgent", "Unknown error"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Connection refused"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Connection timed out"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Host unreachable"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Network error"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Network unreachable"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Permission denied"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "The remote host closed the connection"),
+    QT_TRANSLATE_NOOP("QNativeSocketEngine", "Unknown error"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Connection error"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Connection refused"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Invalid name"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Remote closed"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Socket access error"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Socket operation timed out"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Socket resource error"),
+    QT_TRANSLATE_NOOP("QLocalSocket", "%1: Unknown error %2"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Device disappeared from the system"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Device is already open"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Permission error while creating lock file"),
+    QT_TRANSLATE_NOOP("QSerialPort", "Permission error while locking the device"),
+
+    QT_TRANSLATE_NOOP("QPlatformTheme", "OK"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Save"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Save All"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Open"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&Yes"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Yes to &All"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "&No"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "N&o to All"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Abort"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Retry"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Ignore"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Close"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Cancel"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Discard"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Help"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Apply"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Reset"),
+    QT_TRANSLATE_NOOP("QPlatformTheme", "Restore Defaults"),
+    QT_TRANSLATE_NOOP("QMessageBox", "Show Details..."),
+    QT_TRANSLATE_NOOP("QMessageBox", "Hide Details..."),
+};
