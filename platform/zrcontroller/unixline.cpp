@@ -3,6 +3,8 @@
 
 #include <QThread>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr unsigned long retryPauseMs = 20;
@@ -44,4 +46,9 @@ void UnixLine::close() {
 
 bool UnixLine::isOpen() const {
     return socket.state() == QLocalSocket::ConnectedState;
+}
+
+QString UnixLine::errorString() const {
+    // Behind the name of Qt's own function.
+    return socket.errorString().section(u": "_s, -1);
 }

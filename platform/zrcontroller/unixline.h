@@ -17,7 +17,7 @@ public:
     void close() override;
     bool isOpen() const override;
     QIODevice *device() override { return &socket; }
-    QString errorString() const override { return socket.errorString(); }
+    QString errorString() const override;
 
 private:
     QString socketPath;
