@@ -22,6 +22,7 @@ constexpr int lampWidth = 24;
 constexpr int largestLamp = 18;
 constexpr int padding = 6;
 constexpr qreal radius = 10;
+constexpr qreal ringWidth = 3;
 constexpr int markWidth = 3;
 constexpr int shortestMark = 24;
 // Nobody can read more than this beside a lamp; measuring 64 KiB of text would only cost time.
@@ -199,12 +200,14 @@ QRect LedPanel::scrollMark() const {
 void LedPanel::paintEvent(QPaintEvent *event) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Without lamps there is nothing that a key could do.
-    const bool hasRing = hasFocus() && !leds.isEmpty();
-    painter.setPen(hasRing ? QPen(palette().color(QPalette::Highlight), 2) : QPen(Qt::NoPen));
+    // Without lamps there is nothing that a key or a press could do.
+    const bool hasRing = (hasFocus() || isHeld) && !leds.isEmpty();
+    const qreal inset = hasRing ? ringWidth / 2 : 0;
+    painter.setPen(hasRing ? QPen(palette().color(QPalette::Highlight), ringWidth) : QPen(Qt::NoPen));
     painter.setBrush(palette().base());
     const qreal corner = isRounded ? radius : 0;
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom()), corner, corner);
+    const QRectF field = QRectF(rect()).adjusted(0, 0, 0, -contentsMargins().bottom());
+    painter.drawRoundedRect(field.adjusted(inset, inset, -inset, -inset), corner, corner);
 
     painter.setPen(Qt::NoPen);
     painter.setBrush(palette().color(QPalette::Midlight));
@@ -241,21 +244,29 @@ void LedPanel::resizeEvent(QResizeEvent *) {
     scrollTo(scrollOffset);
 }
 
+void LedPanel::setHeld(bool held) {
+    if (std::exchange(isHeld, held) != held)
+        update();
+}
+
 void LedPanel::mousePressEvent(QMouseEvent *event) {
     pressPosition = event->pos();
     offsetAtPress = scrollOffset;
     isDragged = false;
+    setHeld(true);
 }
 
 void LedPanel::mouseMoveEvent(QMouseEvent *event) {
     const QPoint moved = event->pos() - pressPosition;
     const int distance = isHorizontal ? moved.x() : moved.y();
     isDragged |= qAbs(distance) >= QApplication::startDragDistance();
+    setHeld(!isDragged && rect().contains(event->pos()));
     if (isDragged)
         scrollTo(offsetAtPress - distance);
 }
 
 void LedPanel::mouseReleaseEvent(QMouseEvent *event) {
+    setHeld(false);
     if (!isDragged && rect().contains(event->pos()))
         emit clicked();
 }

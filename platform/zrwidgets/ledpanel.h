@@ -15,8 +15,8 @@
 /// A lamp's shape and colour tell its state (see drawLamp), its name stands beside it. Rows shrink from 32 to 17
 /// pixels when there are many; what does not fit then is reached by dragging, by the wheel or by the arrow keys, and
 /// a mark at the edge shows how far one has come. All names have the largest letters that the rows and the longest
-/// name allow, and names that are too long are set tighter. A drag is no press. Only lamps that changed are painted
-/// again. GUI thread only.
+/// name allow, and names that are too long are set tighter. A ring tells the focus, and that the panel is held. A
+/// drag is no press. Only lamps that changed are painted again. GUI thread only.
 class LedPanel : public QWidget {
     Q_OBJECT
 
@@ -78,6 +78,7 @@ private:
     int farthestOffset() const;
     QRect scrollMark() const;
     void scrollTo(int offset);
+    void setHeld(bool held);
     void drawLed(QPainter *painter, const Led &led, const QRect &rect) const;
 
     QList<Led> leds;
@@ -86,6 +87,7 @@ private:
     bool isHorizontal;
     bool isRounded = false;
     bool isDragged = false;
+    bool isHeld = false;
     int scrollOffset = 0;
     FontSizes::PixelSize letters = FontSizes::Small;
     QPoint pressPosition;

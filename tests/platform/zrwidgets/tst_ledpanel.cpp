@@ -80,6 +80,7 @@ private slots:
     void pressAndReleaseInsideIsAClick();
     void releaseOutsideIsNone();
     void keysClickToo();
+    void ringTellsThatThePanelIsHeld();
     void manyLampsCanBeScrolled();
     void arrowKeysScroll();
     void dragIsNoClickAndAPressAfterItIs();
@@ -211,6 +212,22 @@ void LedPanelTest::keysClickToo() {
     QTest::keyClick(&panel, Qt::Key_Space);
     QTest::keyClick(&panel, Qt::Key_Enter);
     QCOMPARE(clicks.count(), 2);
+}
+
+void LedPanelTest::ringTellsThatThePanelIsHeld() {
+    LedPanel panel(nullptr, false);
+    panel.resize(76, 300);
+    const auto edge = [&panel] { return panel.grab().toImage().pixelColor(1, 150); };
+    const QColor ring = panel.palette().color(QPalette::Highlight);
+    QTest::mousePress(&panel, Qt::LeftButton);
+    QVERIFY(edge() != ring);
+    QTest::mouseRelease(&panel, Qt::LeftButton);
+    addLamps(panel, 4);
+    QVERIFY(edge() != ring);
+    QTest::mousePress(&panel, Qt::LeftButton);
+    QCOMPARE(edge(), ring);
+    QTest::mouseRelease(&panel, Qt::LeftButton);
+    QVERIFY(edge() != ring);
 }
 
 void LedPanelTest::manyLampsCanBeScrolled() {
