@@ -19,6 +19,8 @@ private slots:
     void ratioIsTheGuidelines();
     void textCanBeRead_data();
     void textCanBeRead();
+    void textOnAProgressBarCanBeRead_data();
+    void textOnAProgressBarCanBeRead();
     void disabledTextCanStillBeRead_data() { addPalettes(); }
     void disabledTextCanStillBeRead();
     void controlsCanBeSeen_data();
@@ -107,6 +109,25 @@ void ContrastTest::textCanBeRead() {
             QVERIFY2(contrastRatio(ink, below) >= 7, qPrintable(failure(ink, below)));
         }
     }
+}
+
+void ContrastTest::textOnAProgressBarCanBeRead_data() {
+    QTest::addColumn<PaletteFactory::Set>("set");
+    QTest::addColumn<QString>("name");
+    for (const Set set : {PaletteFactory::Day, PaletteFactory::Night}) {
+        for (const QString &name : {u"GenericWindow"_s, u"Paper"_s})
+            QTest::addRow("%s, %s", nameOf(set), qPrintable(name)) << set << name;
+    }
+}
+
+void ContrastTest::textOnAProgressBarCanBeRead() {
+    QFETCH(const PaletteFactory::Set, set);
+    QFETCH(const QString, name);
+    PaletteFactory::setSet(set);
+    const QPalette palette = PaletteFactory::getPalette(name);
+    const QColor ink = palette.color(QPalette::WindowText);
+    const QColor groove = palette.color(QPalette::Mid);
+    QVERIFY2(contrastRatio(ink, groove) >= 7, qPrintable(failure(ink, groove)));
 }
 
 void ContrastTest::disabledTextCanStillBeRead() {
