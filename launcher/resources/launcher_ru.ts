@@ -909,7 +909,7 @@ Tools</source>
     </message>
     <message>
         <source>Use</source>
-        <translation>Заполнение</translation>
+        <translation>Занято, %</translation>
     </message>
     <message>
         <source>Used</source>

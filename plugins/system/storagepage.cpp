@@ -10,7 +10,7 @@
 StoragePage::StoragePage(QWidget *parent)
     : QWidget(parent), model(new StorageModel(this)), table(new DataTable(this)) {
     table->setModel(model);
-    table->setColumnWidths({0, 84, 120, 120, 120});
+    table->setColumnWidths({0, 100, 120, 120, 120});
     table->setRowsSelectable(false);
     table->setRowsMeasured(true);
     auto *const layout = new QVBoxLayout(this);
