@@ -5,6 +5,8 @@
 
 #include <QVBoxLayout>
 
+using namespace Qt::Literals::StringLiterals;
+
 FactsPage::FactsPage(QWidget *parent) : QWidget(parent) {
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 8, 16, 8);
@@ -19,6 +21,7 @@ FactsPage::FactsPage(QWidget *parent) : QWidget(parent) {
         layout->addWidget(row);
         rows.insert(kind, row);
     }
+    rows.value(SystemFacts::RootStorage)->setObjectName(u"rowStorage"_s);
     layout->addStretch();
     setFocusProxy(rows.value(SystemFacts::RootStorage));
 }

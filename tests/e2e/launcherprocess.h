@@ -44,6 +44,8 @@ public:
     void pressWithoutAnswer(const QString &nameOrText) {
         probe->call(QDBus::NoBlock, QStringLiteral("press"), nameOrText);
     }
+    /// As the display server tells a key of the instrument.
+    void pressDeviceKey(Qt::Key key) { probe->call(QStringLiteral("pressDeviceKey"), int(key)); }
     QString caption() { return ask<QString>("caption"); }
     QString shownPage() { return ask<QString>("shownPage"); }
     QString backButtonText() { return ask<QString>("backButtonText"); }

@@ -23,6 +23,8 @@
 #include <QStackedWidget>
 #include <QTextEdit>
 
+#include <qpa/qwindowsysteminterface.h>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -179,6 +181,11 @@ bool Probe::pressWithKey(const QString &nameOrText) const {
         QApplication::sendEvent(widget, &event);
     }
     return true;
+}
+
+void Probe::pressDeviceKey(int key) const {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+        QWindowSystemInterface::handleKeyEvent(nullptr, type, key, Qt::NoModifier);
 }
 
 bool Probe::pressRow(int row) const {

@@ -39,6 +39,8 @@ public slots:
     bool press(const QString &nameOrText) const;
     /// The same with the key Enter, after the focus has gone there.
     bool pressWithKey(const QString &nameOrText) const;
+    /// Presses and lets go a key of the instrument, below every window.
+    void pressDeviceKey(int key) const;
     /// Presses a row of the visible list or table.
     bool pressRow(int row) const;
     void goHome() const;
