@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "sessionbus.h"
 
+#include "silentbus.h"
+
 #include <QCoreApplication>
 #include <QPointer>
 #include <QThread>
@@ -15,6 +17,10 @@ namespace {
 
 constexpr auto pauseBetweenAttempts = 250ms;
 
+bool isSilent() {
+    return isSilentBus(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
+}
+
 } // namespace
 
 SessionBus *SessionBus::instance() {
@@ -24,10 +30,16 @@ SessionBus *SessionBus::instance() {
     return bus;
 }
 
-SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QDBusConnection::sessionBus()) {
+SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QString()) {
     nextAttempt.setSingleShot(true);
     nextAttempt.setInterval(pauseBetweenAttempts);
     connect(&nextAttempt, SIGNAL(timeout()), this, SLOT(beginAttempt()));
+    if (isSilent()) {
+        std::cerr << "The D-Bus session bus does not answer; waiting for it." << std::endl;
+        nextAttempt.start();
+        return;
+    }
+    current = QDBusConnection::sessionBus();
     if (current.isConnected())
         watch();
 }
@@ -52,8 +64,10 @@ void SessionBus::lose() {
 
 void SessionBus::beginAttempt() {
     attemptedName = u"zr-launcher-%1"_s.arg(++attemptCount);
-    attempt.reset(QThread::create(
-        [name = attemptedName] { QDBusConnection::connectToBus(QDBusConnection::SessionBus, name); }));
+    attempt.reset(QThread::create([name = attemptedName] {
+        if (!isSilent())
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    }));
     connect(attempt.get(), SIGNAL(finished()), this, SLOT(endAttempt()));
     attempt->start();
 }

@@ -12,7 +12,7 @@ class QThread;
 /// The launcher's connection to the session bus: that of the process, and once it is lost a new one, as soon as there is
 /// a bus at the address again.
 ///
-/// A bus that is not there at the start is not looked for. Whoever connected to signals does so anew on isBack().
+/// A bus that is not there at the start is not looked for; one that is there and does not answer is. Whoever connected to signals does so anew on isBack().
 /// GUI thread only.
 class SessionBus : public QObject {
     Q_OBJECT
@@ -39,7 +39,7 @@ private:
 
     QDBusConnection current;
     QTimer nextAttempt;
-    /// A bus that takes the call and does not answer is waited for, but not by the screen.
+    /// Connecting takes its time, which is not the screen's.
     std::unique_ptr<QThread> attempt;
     QString attemptedName;
     int attemptCount = 0;

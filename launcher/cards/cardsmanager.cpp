@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/cardsmanager.h"
 
+#include "businbox.h"
 #include "cards/cardinfo.h"
 #include "cards/meascard.h"
 #include "measlogid.h"
@@ -11,6 +12,7 @@
 
 #include <warningwindow.h>
 
+#include <QDBusMessage>
 #include <QDebug>
 
 #include <algorithm>
@@ -18,7 +20,18 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-CardsManager::CardsManager(QObject *parent) : QObject(parent) {}
+namespace {
+
+constexpr auto inserted = "inserted"_L1;
+constexpr auto removed = "removed"_L1;
+
+} // namespace
+
+CardsManager::CardsManager(QObject *parent)
+    : QObject(parent), inbox(new BusInbox(u"zr.card"_s, {{inserted, u"siss"_s}, {removed, u"si"_s}}, this)) {
+    connect(inbox, SIGNAL(announced(QDBusMessage)), this, SLOT(hear(QDBusMessage)));
+    connect(inbox, SIGNAL(overflowed()), this, SLOT(takeFromFiles()));
+}
 
 CardsManager::~CardsManager() {
     // Before the collections that they are bound to, which are children too and older.
@@ -31,21 +44,20 @@ void CardsManager::scanAndSubscribe() {
 }
 
 void CardsManager::subscribe() {
+    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()), Qt::UniqueConnection);
     if (!SessionBus::instance()->connection().isConnected()) {
         std::cerr << "No connection to the D-Bus session bus.\n" << std::flush;
         return;
     }
-    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()), Qt::UniqueConnection);
-    listen();
+    inbox->listen();
 }
 
-void CardsManager::listen() {
-    QDBusConnection bus = SessionBus::instance()->connection();
-    // With the signatures: without, arguments of some other types reach the slot's conversion, which aborts.
-    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"inserted"_s, QStringList(), u"siss"_s, this,
-                SLOT(cardInserted(QString, int, QString, QString)));
-    bus.connect(QString(), u"/"_s, u"zr.card"_s, u"removed"_s, QStringList(), u"si"_s, this,
-                SLOT(cardRemoved(QString, int)));
+void CardsManager::hear(const QDBusMessage &message) {
+    const QVariantList values = message.arguments();
+    if (message.member() == inserted)
+        cardInserted(values[0].toString(), values[1].toInt(), values[2].toString(), values[3].toString());
+    else
+        cardRemoved(values[0].toString(), values[1].toInt());
 }
 
 void CardsManager::scan() {
@@ -73,14 +85,20 @@ void CardsManager::scanFile(const QString &path) {
 
 void CardsManager::catchUp() {
     // As at the start, first the bus: a card that comes in between is not missed.
-    listen();
+    inbox->listen();
+    takeFromFiles();
+}
+
+void CardsManager::takeFromFiles() {
     const std::optional<QStringList> files = cardInfoFiles(cardInfoDirectory());
     if (!files)
         return;
     QList<CardInfo> present;
     for (const QString &file : *files) {
         const std::optional<QList<QByteArray>> pieces = readCardInfoFile(file);
-        if (const std::optional<CardInfo> card = pieces ? cardInfo(*pieces) : std::nullopt)
+        const std::optional<CardInfo> card = pieces ? cardInfo(*pieces) : std::nullopt;
+        // Unknown types would be told again each time.
+        if (card && MeaslogID.contains(card->name))
             present.append(*card);
     }
     for (MeasCard *const card : QList<MeasCard *>(cards)) {

@@ -6,8 +6,10 @@
 #include <QObject>
 #include <QString>
 
+class BusInbox;
 class MeasCard;
 class PluginsCollection;
+class QDBusMessage;
 class WarningWindow;
 
 /// Follows the measurement cards, as the card service tells them on the session bus (docs/protocols.md, "Card service"), and
@@ -45,16 +47,19 @@ protected slots:
     void cardRemoved(const QString &name, int sn);
 
 private slots:
+    void hear(const QDBusMessage &message);
     /// After a time without a bus: takes what came and went from the info files.
     void catchUp();
+    /// The same after a flood of announcements.
+    void takeFromFiles();
 
 private:
     PluginsCollection *makePersistentCollection(const QString &name);
-    void listen();
     void scanFile(const QString &path);
     void refuse(const QString &name);
     void remove(MeasCard *card);
 
+    BusInbox *inbox;
     QMap<QString, PluginsCollection *> persistentCollections;
     /// In order of arrival.
     QList<MeasCard *> cards;

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "flash/flashspy.h"
 
+#include "businbox.h"
 #include "hostpath.h"
 #include "sessionbus.h"
 #include "zrlauncherconfig.h"
 
 #include <QCoreApplication>
+#include <QDBusMessage>
 #include <QFile>
 #include <QRegularExpression>
 
@@ -14,6 +16,10 @@
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr auto inserted = "inserted"_L1;
+constexpr auto removed = "removed"_L1;
+constexpr auto mountFailure = "mountFailed"_L1;
 
 /// By bit number of the exit code (mount(8), "EXIT STATUS"); a null ends the table.
 const char *const mountErrNames[] = {
@@ -29,7 +35,12 @@ const char *const mountErrNames[] = {
 
 } // namespace
 
-FlashSpy::FlashSpy(QObject *parent) : QObject(parent) {
+FlashSpy::FlashSpy(QObject *parent)
+    : QObject(parent),
+      inbox(new BusInbox(u"zr.flash"_s, {{inserted, u"s"_s}, {removed, u"s"_s}, {mountFailure, u"i"_s}},
+                         this)) {
+    connect(inbox, SIGNAL(announced(QDBusMessage)), this, SLOT(hear(QDBusMessage)));
+    connect(inbox, SIGNAL(overflowed()), inbox, SLOT(tellNewest()));
     clearConfig();
     subscribe();
 }
@@ -43,25 +54,26 @@ QString FlashSpy::flashName() const {
 }
 
 void FlashSpy::subscribe() {
+    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()));
     if (!SessionBus::instance()->connection().isConnected()) {
         std::cerr << "No connection to the D-Bus session bus.\n";
         return;
     }
-    connect(SessionBus::instance(), SIGNAL(isBack()), this, SLOT(catchUp()));
-    listen();
+    inbox->listen();
 }
 
-void FlashSpy::listen() {
-    QDBusConnection bus = SessionBus::instance()->connection();
-    const QString path = u"/"_s;
-    const QString interface = u"zr.flash"_s;
-    bus.connect(QString(), path, interface, u"inserted"_s, this, SLOT(addFlash(QString)));
-    bus.connect(QString(), path, interface, u"removed"_s, this, SLOT(removeFlash(QString)));
-    bus.connect(QString(), path, interface, u"mountFailed"_s, this, SLOT(brokeFlash(int)));
+void FlashSpy::hear(const QDBusMessage &message) {
+    const QVariant value = message.arguments().constFirst();
+    if (message.member() == inserted)
+        addFlash(value.toString());
+    else if (message.member() == removed)
+        removeFlash(value.toString());
+    else
+        brokeFlash(value.toInt());
 }
 
 void FlashSpy::catchUp() {
-    listen();
+    inbox->listen();
     isToBeConfirmed = !deviceName.isEmpty();
     // Who unmounts a drive takes its directory away.
     if (isToBeConfirmed && !QFile::exists(hostPath(flashDirectory)))

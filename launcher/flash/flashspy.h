@@ -3,6 +3,9 @@
 
 #include <QObject>
 
+class BusInbox;
+class QDBusMessage;
+
 /// Follows the one flash drive that the instrument uses, as the mount service tells of it on the session bus, and tells
 /// the plug-ins in the launcher's store where it is mounted. GUI thread only.
 class FlashSpy : public QObject {
@@ -32,17 +35,18 @@ public slots:
     void brokeFlash(int errCode);
 
 private slots:
+    void hear(const QDBusMessage &message);
     /// After a time without a bus, in which the drive may have been pulled.
     void catchUp();
 
 private:
     void subscribe();
-    void listen();
     void clearConfig();
     static bool isValidPartition(const QString &name);
     static QString decodeMountError(int code);
     static QString translateMountErr(int bit);
 
+    BusInbox *inbox;
     QString flashDirectory;
     QString deviceName;
     /// The mount service, which ends with the bus, announces a drive that stayed once more.
