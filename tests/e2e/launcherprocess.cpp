@@ -63,6 +63,11 @@ int LauncherProcess::runToEnd(const QStringList &arguments) {
     return waitForEnd();
 }
 
+bool LauncherProcess::hasChildren() const {
+    QFile children(u"/proc/%1/task/%1/children"_s.arg(process.processId()));
+    return children.open(QIODevice::ReadOnly) && !children.readAll().isEmpty();
+}
+
 void LauncherProcess::setScreenHeight(int pixels) {
     const QString root = environment.value(u"ZR_SYSROOT"_s);
     QDir().mkpath(root + "/dev"_L1);

@@ -31,6 +31,8 @@ public:
     /// Presses what is named again and again for a while: how long the slowest answer took.
     std::chrono::milliseconds slowestPress(const QString &nameOrText, std::chrono::milliseconds period);
     qint64 processId() const { return process.processId(); }
+    /// Whether a program that it started still runs.
+    bool hasChildren() const;
 
     /// Gives the launcher a framebuffer of that height.
     void setScreenHeight(int pixels);

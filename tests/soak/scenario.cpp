@@ -18,6 +18,9 @@ constexpr std::array<const char *, Action::kinds> kindNames{
     "set charge",  "refuse export", "export",       "pull asked",     "pull drive",    "fail mount",
     "save report", "read report",   "delete report"};
 
+const QStringList windows{u"Система"_s, u"Сеть"_s, u"Отчёты"_s};
+const QStringList popups{u"Звук"_s, u"labelBattery"_s, u"labelInfo"_s};
+
 } // namespace
 
 QString Action::text() const {
@@ -42,6 +45,16 @@ Action Scenario::next() {
         if (isPossible(kind))
             return made(kind);
     }
+}
+
+QList<Action> Scenario::everyWindow() {
+    QList<Action> actions{
+        {Action::OpenSettings, {}}, {Action::AskForPower, {}}, {Action::FailMount, {u"1"_s}}};
+    for (const QString &window : windows)
+        actions.append({Action::OpenWindow, {window}});
+    for (const QString &popup : popups)
+        actions.append({Action::OpenPopup, {popup}});
+    return actions;
 }
 
 QList<Action> Scenario::ending() {
@@ -94,9 +107,9 @@ Action Scenario::made(Action::Kind kind) {
     case Action::ShowPage:
         return {kind, {QString::number(below(pages()))}};
     case Action::OpenWindow:
-        return {kind, {oneOf({u"Система"_s, u"Сеть"_s, u"Отчёты"_s})}};
+        return {kind, {oneOf(windows)}};
     case Action::OpenPopup:
-        return {kind, {oneOf({u"Звук"_s, u"labelBattery"_s, u"labelInfo"_s})}};
+        return {kind, {oneOf(popups)}};
     case Action::PressKey:
         return {kind, {oneOf({u"Home"_s, u"F3"_s, u"F4"_s})}};
     case Action::SetCharge:

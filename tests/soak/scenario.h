@@ -48,6 +48,8 @@ public:
 
     quint32 seed() const { return firstSeed; }
     Action next();
+    /// Actions that show every window and pop-up once, possible at any time.
+    static QList<Action> everyWindow();
     /// The actions that take away all that was inserted and saved.
     QList<Action> ending();
 
