@@ -21,6 +21,7 @@ private slots:
     void persistentPageIsBoundFreedAndBoundAgain();
     void cardThatHangsIsToldAndTheWindowAnswers();
     void unknownCardIsToldToTheUser();
+    void reportThatACardCoveredIsLeftAsItsButtonSays();
     void launcherWithoutABusShowsTheCardsThatAreThere();
 
 private:
@@ -148,6 +149,38 @@ void InstalledCardsTest::unknownCardIsToldToTheUser() {
     QTRY_COMPARE(launcher.message(), u"Тип карты e7 не поддерживается"_s);
     QVERIFY(launcher.press(u"ОК"_s));
     QTRY_COMPARE(launcher.message(), QString());
+}
+
+void InstalledCardsTest::reportThatACardCoveredIsLeftAsItsButtonSays() {
+    configure(u"zr"_s);
+    config.set(u"paths/main"_s, u"reports"_s);
+    config.setCollection(u"zr"_s, u"probe reports"_s);
+    config.addPlugin(u"reports"_s, {.version = 1,
+                                    .column = 2,
+                                    .file = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR
+                                                                    "/zr-launcher/plugins/libreports.so")});
+    QVERIFY(QDir().mkpath(QDir::homePath() + "/reports"_L1));
+    QFile report(QDir::homePath() + "/reports/line.txt"_L1);
+    QVERIFY(report.open(QIODevice::WriteOnly));
+    report.close();
+    LauncherProcess launcher;
+    QVERIFY2(launcher.start(), launcher.errors());
+    QVERIFY(launcher.press(u"Отчёты"_s));
+    QVERIFY(launcher.pressRow(0));
+    QVERIFY(launcher.press(u"Открыть"_s));
+    QCOMPARE(launcher.backButtonText(), u"◄ Отчёты"_s);
+    card(u"insert gbe 8"_s);
+    QTRY_COMPARE(launcher.caption(), u"GbE"_s);
+    QVERIFY(launcher.press(u"Настройки"_s));
+
+    QVERIFY(launcher.press(u"Отчёты"_s));
+    QCOMPARE(launcher.caption(), u"line.txt"_s);
+    QCOMPARE(launcher.backButtonText(), u"◄ Отчёты"_s);
+    QVERIFY(launcher.press(u"◄ Отчёты"_s));
+    QVERIFY(launcher.isVisible(u"Удалить"_s));
+    QCOMPARE(launcher.backButtonText(), u"◄ Настройки"_s);
+    QVERIFY(launcher.press(u"◄ Настройки"_s));
+    QCOMPARE(launcher.shownPage(), u"pageLauncher"_s);
 }
 
 void InstalledCardsTest::launcherWithoutABusShowsTheCardsThatAreThere() {
