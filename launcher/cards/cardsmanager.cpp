@@ -123,7 +123,7 @@ void CardsManager::runPersistent() {
 }
 
 PluginsCollection *CardsManager::makePersistentCollection(const QString &name) {
-    // The instrument's own collection outlives the manager: it belongs to nobody.
+    // The instrument's own collection outlives the manager; the window ends it.
     if (name == "zr"_L1)
         return new PluginsCollection(name, true, nullptr);
     return new CardPluginsCollection(name, nullptr, true, this);

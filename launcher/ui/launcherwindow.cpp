@@ -111,6 +111,9 @@ LauncherWindow::LauncherWindow(QWidget *parent) : QWidget(parent), ui(std::make_
 }
 
 LauncherWindow::~LauncherWindow() {
+    // The manager does not own it.
+    const std::unique_ptr<PluginsCollection> instrumentsOwn(
+        cardsManager->persistentCollection(settingsCollection));
     // The collections take their widgets out of this window, so they end while it still stands.
     for (PluginsCollection *const collection : collectionPages.keys())
         collection->unload();

@@ -20,8 +20,9 @@ constexpr auto longestWaitForUpdate = 500ms;
 
 enum Result { NoReply = -1, Refused = 0, Obeyed = 1 };
 
-/// Every controller there is, in the order in which they got their cards.
-QList<CardController *> controllers;
+/// Every controller there is, in the order in which they got their cards. The list is never destroyed: those that were
+/// let go of stay until the process ends.
+QList<CardController *> &controllers = *new QList<CardController *>;
 
 bool isRefusal(const QString &reply) {
     return reply == "error"_L1 || reply.startsWith("error "_L1) || reply.startsWith("error\n"_L1);
