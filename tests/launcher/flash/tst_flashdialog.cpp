@@ -383,8 +383,9 @@ void FlashDialogTest::nothingIsClipped() {
         dialog->closeGracefully();
     });
     QCOMPARE(dialog->geometry(), window->geometry());
-    QVERIFY2(dialog->rect().contains(frame), QTest::toString(frame));
-    QVERIFY2(given.width() >= needed.width() && given.height() >= needed.height(), QTest::toString(needed));
+    QVERIFY2(dialog->rect().contains(frame), qPrintable(QDebug::toString(frame)));
+    QVERIFY2(given.width() >= needed.width() && given.height() >= needed.height(),
+             qPrintable(QDebug::toString(needed)));
 }
 
 QTEST_MAIN(FlashDialogTest)
