@@ -158,10 +158,13 @@ QString storeFile(QSettings::Scope scope, const QString &application) {
     static QMutex nameMutex;
     static QHash<std::pair<int, QString>, QString> knownNames;
     const QMutexLocker lock(&nameMutex);
-    QString &name = knownNames[{scope, application}];
-    if (name.isEmpty())
-        name = QSettings(QSettings::NativeFormat, scope, u"talvenor"_s, application).fileName();
-    return name;
+    const auto known = knownNames.constFind({scope, application});
+    if (known != knownNames.cend())
+        return *known;
+    // Letters of our own: those of a literal go with the plug-in that they stand in.
+    const QString key(application.constData(), application.size());
+    const QSettings settings(QSettings::NativeFormat, scope, u"talvenor"_s, application);
+    return *knownNames.insert({scope, key}, settings.fileName());
 }
 
 bool flushDescriptor(const QString &path, int flags) {
