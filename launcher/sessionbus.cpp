@@ -82,6 +82,7 @@ void SessionBus::endAttempt() {
     }
     current = found;
     watch();
-    std::cerr << "The D-Bus session bus is back." << std::endl;
+    // Told when it is heard again.
     emit isBack();
+    std::cerr << "The D-Bus session bus is back." << std::endl;
 }

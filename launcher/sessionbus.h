@@ -12,8 +12,8 @@ class QThread;
 /// The launcher's connection to the session bus: that of the process, and once it is lost a new one, as soon as there is
 /// a bus at the address again.
 ///
-/// A bus that is not there at the start is not looked for; one that is there and does not answer is. Whoever connected to signals does so anew on isBack().
-/// GUI thread only.
+/// A bus that is not there at the start is not looked for; one that takes the call and does not answer is waited for. Whoever
+/// connected to signals does so anew on isBack(). GUI thread only.
 class SessionBus : public QObject {
     Q_OBJECT
 

@@ -96,6 +96,13 @@ std::chrono::milliseconds LauncherProcess::slowestPress(const QString &nameOrTex
     return slowest;
 }
 
+void LauncherProcess::simulate(const QString &words, const QProcessEnvironment &environment) {
+    QProcess simulator;
+    simulator.setProcessEnvironment(environment);
+    simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
+    simulator.waitForFinished();
+}
+
 QByteArray LauncherProcess::errors() {
     errorBytes += process.readAllStandardError();
     return errorBytes;

@@ -30,6 +30,9 @@ public:
     int stop(int signal = SIGTERM);
     /// Presses what is named again and again for a while: how long the slowest answer took.
     std::chrono::milliseconds slowestPress(const QString &nameOrText, std::chrono::milliseconds period);
+    /// Lets the installed simulator do what `words` say, on the bus of `environment`.
+    static void simulate(const QString &words,
+                         const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
     qint64 processId() const { return process.processId(); }
     /// Whether a program that it started still runs.
     bool hasChildren() const;

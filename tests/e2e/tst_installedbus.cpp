@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QElapsedTimer>
+#include <QLocalServer>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTest>
@@ -13,6 +14,27 @@
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto longestPress = 500ms;
+
+/// Takes the calls at a socket, and says nothing.
+class SilentServer {
+public:
+    explicit SilentServer(const QString &socket) {
+        // A bus that was killed leaves its own behind.
+        QLocalServer::removeServer(socket);
+        server.listen(socket);
+    }
+    bool isCalled() { return server.waitForNewConnection(10'000); }
+
+private:
+    QLocalServer server;
+};
+
+} // namespace
 
 /// The installed launcher on a bus that ends under it. The probe and the simulated cards have another one.
 class InstalledBusTest : public QObject {
@@ -26,17 +48,14 @@ private slots:
     void everyLossIsOutlived();
     void driveIsFollowedAcrossTheLoss_data();
     void driveIsFollowedAcrossTheLoss();
+    void busThatHangsDoesNotHoldUpTheScreen();
+    void silentBusIsWaitedForBesideTheScreen();
+    void silentBusAtTheStartIsWaitedFor();
 
 private:
     QString socket() const { return directory->filePath(u"bus"_s); }
     /// Told on the bus of the cards, which the launcher does not hear; the info file is there or gone.
-    static void simulate(const QString &words) { simulate(words, QProcessEnvironment::systemEnvironment()); }
-    static void simulate(const QString &words, const QProcessEnvironment &environment) {
-        QProcess simulator;
-        simulator.setProcessEnvironment(environment);
-        simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
-        simulator.waitForFinished();
-    }
+    static void simulate(const QString &words) { LauncherProcess::simulate(words); }
     void announceDrive(const QString &name) const {
         QCOMPARE(QProcess::execute(u"dbus-send"_s, {"--bus="_L1 + bus->address(), u"/"_s,
                                                     u"zr.flash.inserted"_s, "string:"_L1 + name}),
@@ -120,7 +139,7 @@ void InstalledBusTest::launcherOutlivesTheBus() {
     QTRY_VERIFY(launcher->leds().contains(u"LINK:1"_s));
 
     // News come on the new bus.
-    simulate(u"card insert otdr 3"_s, launcher->environment);
+    LauncherProcess::simulate(u"card insert otdr 3"_s, launcher->environment);
     QTRY_COMPARE(launcher->selectorTexts().size(), 3);
     announceDrive(u"sda1"_s);
     QTRY_VERIFY(!launcher->message().isEmpty());
@@ -133,7 +152,7 @@ void InstalledBusTest::everyLossIsOutlived() {
         loseTheBus();
         QVERIFY(bus->restart());
         waitUntilItIsBack();
-        simulate(u"card insert gbe 7"_s, launcher->environment);
+        LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
         QTRY_COMPARE(launcher->selectorTexts().size(), 2);
         simulate(u"card remove gbe-7"_s);
         QTRY_COMPARE(launcher->selectorTexts().size(), 1);
@@ -170,10 +189,69 @@ void InstalledBusTest::driveIsFollowedAcrossTheLoss() {
     waitUntilItIsBack();
     announceDrive(announced);
     // Comes behind the drive.
-    simulate(u"card insert gbe 7"_s, launcher->environment);
+    LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
     QTRY_COMPARE(launcher->selectorTexts().size(), 2);
     QCOMPARE(storedDrive(), drive);
     QCOMPARE(!launcher->message().isEmpty(), isAsked);
+}
+
+void InstalledBusTest::busThatHangsDoesNotHoldUpTheScreen() {
+    simulate(u"card insert e1 501"_s);
+    QVERIFY2(launcher->start(), launcher->errors());
+    bus->suspend();
+    const auto slowest = launcher->slowestPress(u"Настройки"_s, 2s);
+    qInfo("slowest press while the bus hangs: %lld ms", static_cast<long long>(slowest.count()));
+    QVERIFY(slowest < longestPress);
+    QVERIFY(launcher->press(u"ИКМ"_s));
+    simulate(u"card alarm e1-501 LOS present"_s);
+    QTRY_VERIFY(launcher->leds().contains(u"LOS:3"_s));
+
+    bus->resume();
+    LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
+    QTRY_COMPARE(launcher->selectorTexts().size(), 3);
+    QCOMPARE(launcher->stop(), 0);
+}
+
+void InstalledBusTest::silentBusIsWaitedForBesideTheScreen() {
+    QVERIFY2(launcher->start(), launcher->errors());
+    loseTheBus();
+    {
+        SilentServer server(socket());
+        QVERIFY(server.isCalled());
+        const auto slowest = launcher->slowestPress(u"Настройки"_s, 2s);
+        qInfo("slowest press while the new bus says nothing: %lld ms",
+              static_cast<long long>(slowest.count()));
+        QVERIFY(slowest < longestPress);
+    }
+    QVERIFY(bus->restart());
+    waitUntilItIsBack();
+    LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
+    QTRY_COMPARE(launcher->selectorTexts().size(), 2);
+    simulate(u"card remove gbe-7"_s);
+
+    loseTheBus();
+    SilentServer server(socket());
+    QVERIFY(server.isCalled());
+    QElapsedTimer sinceTheSignal;
+    sinceTheSignal.start();
+    QCOMPARE(launcher->stop(), 0);
+    QVERIFY(sinceTheSignal.elapsed() < 5'000);
+}
+
+void InstalledBusTest::silentBusAtTheStartIsWaitedFor() {
+    bus->kill();
+    QElapsedTimer sinceTheStart;
+    sinceTheStart.start();
+    {
+        const SilentServer server(socket());
+        QVERIFY2(launcher->start(), launcher->errors());
+        qInfo("shown after %lld ms", static_cast<long long>(sinceTheStart.elapsed()));
+    }
+    QVERIFY(launcher->errors().contains("The D-Bus session bus does not answer; waiting for it.\n"));
+    QVERIFY(bus->restart());
+    QTRY_VERIFY(launcher->errors().contains("The D-Bus session bus is back.\n"));
+    LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
+    QTRY_COMPARE(launcher->selectorTexts().size(), 2);
 }
 
 QTEST_GUILESS_MAIN(InstalledBusTest)

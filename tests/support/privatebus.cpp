@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "privatebus.h"
 
+#include <csignal>
+
 using namespace Qt::Literals::StringLiterals;
 
 PrivateBus::PrivateBus(const QString &socket) {
@@ -17,6 +19,14 @@ void PrivateBus::end() {
 void PrivateBus::kill() {
     daemon.kill();
     daemon.waitForFinished();
+}
+
+void PrivateBus::suspend() {
+    ::kill(static_cast<pid_t>(daemon.processId()), SIGSTOP);
+}
+
+void PrivateBus::resume() {
+    ::kill(static_cast<pid_t>(daemon.processId()), SIGCONT);
 }
 
 bool PrivateBus::restart() {

@@ -15,6 +15,9 @@ public:
     void end();
     /// Ends it as the kernel does, which leaves the socket behind.
     void kill();
+    /// Takes calls and says nothing, until resume().
+    void suspend();
+    void resume();
     /// Begins anew at the same address.
     bool restart();
 
