@@ -5,12 +5,14 @@
 #include "testconfig.h"
 
 #include <QDir>
+#include <QFile>
 #include <QSettings>
 #include <QTest>
 
 #include <unistd.h>
 
 #include <chrono>
+#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -18,10 +20,11 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr int signalsASecond = 10'000;
-constexpr auto floodTime = 10s;
 constexpr auto longestPress = 2s;
 constexpr qint64 mostGrowthKilobytes = 24 * 1024;
-constexpr qint64 mostLeftKilobytes = 16 * 1024;
+/// The allocator keeps what the first floods took, and later ones take it again. Were the signals kept, hundreds of bytes each,
+/// it would be more.
+constexpr qint64 mostGrowthOfManyKilobytes = 32 * 1024;
 
 /// What the kernel counts for a process.
 class Consumption {
@@ -66,70 +69,84 @@ class InstalledFloodTest : public QObject {
     Q_OBJECT
 
 private slots:
+    void init();
+    void cleanup() { launcher.reset(); }
+
     void floodCostsNeitherMemoryNorTheScreen();
+    void manyFloodsTakeTheMemoryOfOne();
 
 private:
-    static void simulate(const QString &words, const QProcessEnvironment &environment) {
-        QProcess simulator;
-        simulator.setProcessEnvironment(environment);
-        simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
-        simulator.waitForFinished();
-    }
     static QString storedDrive() {
         QSettings store(u"talvenor"_s, u"zr-launcher"_s);
         store.sync();
         return store.value(u"flash/dir"_s).toString();
     }
+
+    /// The first card that is there is among those that it speaks of.
+    void begin(QProcess &flood, std::chrono::seconds time) const {
+        flood.setProcessEnvironment(launcher->environment);
+        flood.start(QStringLiteral(E2E_BUS_FLOOD),
+                    {QString::number(signalsASecond), QString::number(time.count()),
+                     QDir(infoDirectory).entryInfoList({u"*.info"_s}).constFirst().filePath()});
+    }
+    /// The launcher has told the end of so many floods.
+    bool areOver(qsizetype floods) const {
+        const QByteArray errors = launcher->errors();
+        return errors.count("The flood of zr.card is over") == floods &&
+               errors.count("The flood of zr.flash is over") == floods;
+    }
+
+    const QString infoDirectory = qEnvironmentVariable("ZR_SYSROOT") + "/var/run/tester"_L1;
+    TestConfig config;
+    const PrivateBus bus;
+    std::unique_ptr<LauncherProcess> launcher;
 };
 
-void InstalledFloodTest::floodCostsNeitherMemoryNorTheScreen() {
-    const QString infoDirectory = qEnvironmentVariable("ZR_SYSROOT") + "/var/run/tester"_L1;
+void InstalledFloodTest::init() {
     QVERIFY(QDir().mkpath(infoDirectory));
-    TestConfig config;
+    config = TestConfig();
     config.setPath(u""_s);
     config.setPersistent(u"zr"_s);
     config.setCollection(u"zr"_s, u"probe"_s);
     config.addPlugin(u"probe"_s, {.file = QStringLiteral(E2E_PROBE)});
-    const PrivateBus bus;
     QVERIFY(!bus.address().isEmpty());
-    LauncherProcess launcher;
-    launcher.environment.insert(u"PROBE_BUS"_s, qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
-    launcher.environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
-    const QProcessEnvironment onTheBus = launcher.environment;
-    simulate(u"card insert gbe 7"_s, onTheBus);
-    QVERIFY2(launcher.start(), launcher.errors());
-    QCOMPARE(launcher.selectorTexts(), QStringList({u"Настройки"_s, u"GbE"_s}));
-    const Consumption consumption(launcher.processId());
-    const auto slowestAtRest = launcher.slowestPress(u"Настройки"_s, 1s);
+    launcher = std::make_unique<LauncherProcess>();
+    launcher->environment.insert(u"PROBE_BUS"_s, qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
+    launcher->environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus.address());
+}
+
+void InstalledFloodTest::floodCostsNeitherMemoryNorTheScreen() {
+    const QProcessEnvironment onTheBus = launcher->environment;
+    LauncherProcess::simulate(u"card insert gbe 7"_s, onTheBus);
+    QVERIFY2(launcher->start(), launcher->errors());
+    QCOMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"GbE"_s}));
+    const Consumption consumption(launcher->processId());
+    const auto slowestAtRest = launcher->slowestPress(u"Настройки"_s, 1s);
     const qint64 before = consumption.residentKilobytes();
     const double timeBefore = consumption.processorTime();
     consumption.forgetHighest();
 
     QProcess flood;
-    flood.setProcessEnvironment(onTheBus);
-    flood.start(QStringLiteral(E2E_BUS_FLOOD),
-                {QString::number(signalsASecond), QString::number(floodTime / 1s),
-                 QDir(infoDirectory).entryInfoList({u"*.info"_s}).constFirst().filePath()});
-    auto slowest = launcher.slowestPress(u"Настройки"_s, 4s);
-    simulate(u"card insert e1 501"_s, onTheBus);
-    slowest = std::max(slowest, launcher.slowestPress(u"Настройки"_s, 4s));
+    begin(flood, 10s);
+    auto slowest = launcher->slowestPress(u"Настройки"_s, 4s);
+    LauncherProcess::simulate(u"card insert e1 501"_s, onTheBus);
+    slowest = std::max(slowest, launcher->slowestPress(u"Настройки"_s, 4s));
     // Seen while the flood goes on.
     QVERIFY(flood.state() == QProcess::Running);
-    QVERIFY(launcher.selectorTexts().contains(u"ИКМ"_s));
+    QVERIFY(launcher->selectorTexts().contains(u"ИКМ"_s));
     QTRY_COMPARE_WITH_TIMEOUT(flood.state(), QProcess::NotRunning, 60'000);
     const double processorTime = consumption.processorTime() - timeBefore;
     QCOMPARE(flood.exitCode(), 0);
 
-    QTRY_VERIFY(launcher.errors().contains("The flood of zr.card is over"));
-    QTRY_VERIFY(launcher.errors().contains("The flood of zr.flash is over"));
-    QCOMPARE(launcher.selectorTexts(), QStringList({u"Настройки"_s, u"GbE"_s, u"ИКМ"_s}));
+    QTRY_VERIFY(areOver(1));
+    QCOMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"GbE"_s, u"ИКМ"_s}));
     QCOMPARE(storedDrive(), QString());
     // From now on each announcement counts again.
-    simulate(u"card remove gbe-7"_s, onTheBus);
-    QTRY_COMPARE(launcher.selectorTexts(), QStringList({u"Настройки"_s, u"ИКМ"_s}));
-    QVERIFY(launcher.press(u"ИКМ"_s));
-    simulate(u"card alarm e1-501 LOS present"_s, onTheBus);
-    QTRY_VERIFY(launcher.leds().contains(u"LOS:3"_s));
+    LauncherProcess::simulate(u"card remove gbe-7"_s, onTheBus);
+    QTRY_COMPARE(launcher->selectorTexts(), QStringList({u"Настройки"_s, u"ИКМ"_s}));
+    QVERIFY(launcher->press(u"ИКМ"_s));
+    LauncherProcess::simulate(u"card alarm e1-501 LOS present"_s, onTheBus);
+    QTRY_VERIFY(launcher->leds().contains(u"LOS:3"_s));
 
     const qint64 highest = consumption.highestKilobytes();
     const qint64 after = consumption.residentKilobytes();
@@ -140,14 +157,32 @@ void InstalledFloodTest::floodCostsNeitherMemoryNorTheScreen() {
           static_cast<long long>(slowestAtRest.count()), static_cast<long long>(before),
           static_cast<long long>(highest), static_cast<long long>(after), processorTime);
     QVERIFY(slowest < longestPress);
-    if (MEMORY_IS_MEASURED) {
+    if (MEMORY_IS_MEASURED)
         QVERIFY(highest - before < mostGrowthKilobytes);
-        QVERIFY(after - before < mostLeftKilobytes);
-    }
     // Whoever reads the journal afterwards finds something in it.
-    QVERIFY(launcher.errors().size() < 100'000);
-    QCOMPARE(launcher.stop(), 0);
-    simulate(u"card remove e1-501"_s, onTheBus);
+    QVERIFY(launcher->errors().size() < 100'000);
+    QCOMPARE(launcher->stop(), 0);
+    LauncherProcess::simulate(u"card remove e1-501"_s, onTheBus);
+}
+
+void InstalledFloodTest::manyFloodsTakeTheMemoryOfOne() {
+    LauncherProcess::simulate(u"card insert gbe 7"_s, launcher->environment);
+    QVERIFY2(launcher->start(), launcher->errors());
+    const Consumption consumption(launcher->processId());
+    QList<qint64> kilobytes{consumption.residentKilobytes()};
+    for (int floods = 1; floods <= 5; ++floods) {
+        QProcess flood;
+        begin(flood, 3s);
+        QTRY_VERIFY_WITH_TIMEOUT(areOver(floods), 30'000);
+        QVERIFY(launcher->press(u"Настройки"_s));
+        kilobytes.append(consumption.residentKilobytes());
+    }
+    const qint64 highest = consumption.highestKilobytes();
+    qInfo() << "resident KiB before and after each flood" << kilobytes << "at most" << highest;
+    if (MEMORY_IS_MEASURED)
+        QVERIFY(highest - kilobytes.constFirst() < mostGrowthOfManyKilobytes);
+    QCOMPARE(launcher->stop(), 0);
+    LauncherProcess::simulate(u"card remove gbe-7"_s, launcher->environment);
 }
 
 QTEST_GUILESS_MAIN(InstalledFloodTest)
