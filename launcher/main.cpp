@@ -10,8 +10,8 @@
 #include "ui/launcherwindow.h"
 
 #include <qwsserver.h>
-#include <surfacekeeper.h>
 #include <styleoverride.h>
+#include <surfacekeeper.h>
 
 #include <QApplication>
 #include <QDebug>
