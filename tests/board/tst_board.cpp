@@ -328,6 +328,7 @@ void BoardTest::pluginThatCrashesAtEveryStartIsLeftOut() {
     // Crashes of before do not count, and the first start is to fail.
     output("systemctl stop zr-launcher; rm -f /run/zr-session/zr-launcher/crashes.json; "
            "touch /run/zr-session/crash; systemctl start --no-block zr-launcher");
+    ZR_SOON(output("systemctl is-active zr-launcher") == "active");
     ZR_SHOWS(u"leftout"_s);
     QCOMPARE(board->run("rm /run/zr-session/crash /var/lib/zr/.config/talvenor/zr-launcher.conf").status, 0);
     restartLauncher();
