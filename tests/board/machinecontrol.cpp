@@ -11,6 +11,12 @@ namespace {
 
 constexpr int answerTime = 20'000;
 
+/// The event, and the device where it is about one that has a name. What is inside of a device has none.
+QString eventOf(const QJsonObject &message) {
+    const QString device = message.value(u"data"_s).toObject().value(u"device"_s).toString();
+    return QString(message.value(u"event"_s).toString() + u' ' + device).trimmed();
+}
+
 } // namespace
 
 bool MachineControl::connectTo(const QString &name) {
@@ -40,7 +46,7 @@ QJsonObject MachineControl::execute(const QString &command, const QJsonObject &a
             qWarning("%s: %s", qPrintable(command), QJsonDocument(answer).toJson().constData());
             return {};
         }
-        events << answer.value(u"event"_s).toString();
+        events << eventOf(answer);
     }
 }
 
@@ -50,7 +56,7 @@ bool MachineControl::waitForEvent(const QString &event, int milliseconds) {
         const QJsonObject message = read(static_cast<int>(deadline.remainingTime()));
         if (message.isEmpty())
             return false;
-        events << message.value(u"event"_s).toString();
+        events << eventOf(message);
     }
     events.removeAll(event);
     return true;

@@ -120,6 +120,6 @@ void VirtualBoard::plugDrive(const QString &drive) {
 
 void VirtualBoard::pullDrive() {
     control.execute(u"device_del"_s, {{u"id"_s, u"flashdrive"_s}});
-    control.waitForEvent(u"DEVICE_DELETED"_s, 10'000);
+    control.waitForEvent(u"DEVICE_DELETED flashdrive"_s, 10'000);
     control.execute(u"blockdev-del"_s, {{u"node-name"_s, u"flash"_s}});
 }
