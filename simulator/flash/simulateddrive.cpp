@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 
 #include <array>
+#include <sys/mount.h>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -114,9 +115,11 @@ QString SimulatedDrive::insertDirectory() const {
 }
 
 QString SimulatedDrive::remove() {
-    const bool isMounted = run(u"mountpoint"_s, {u"-q"_s, mountDirectory()});
-    const bool isRemoved =
-        isMounted ? run(u"umount"_s, {u"--lazy"_s, mountDirectory()}) && QDir().rmdir(mountDirectory())
-                  : QDir().rename(mountDirectory(), keptDirectory());
+    const QByteArray directory = QFile::encodeName(mountDirectory());
+    // Not umount(8): it looks into a table that may change while it reads, and then finds no such mount.
+    const bool isUnmounted = ::umount2(directory.constData(), MNT_DETACH) == 0;
+    // A program that was about to write to the drive may have written to the directory below it.
+    const bool isRemoved = isUnmounted ? QDir(mountDirectory()).removeRecursively()
+                                       : QDir().rename(mountDirectory(), keptDirectory());
     return isRemoved ? QString() : u"cannot take %1 away"_s.arg(mountDirectory());
 }
