@@ -27,6 +27,12 @@ int mountExitCode(const QProcess &process) {
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : mountFailure;
 }
 
+/// Runs that are under way when the service ends stay: the destructor of one that cannot be killed would wait for it.
+QObject *undyingParent() {
+    static auto *const parent = new QObject;
+    return parent;
+}
+
 } // namespace
 
 MountHelper::MountHelper(std::chrono::milliseconds mountLimit, QObject *parent)
@@ -58,8 +64,7 @@ void MountHelper::unmount(const QString &partition) {
 
 QProcess *MountHelper::newRun(const QString &verb, const QString &partition,
                               const std::function<void(int exitCode)> &ended) {
-    // It has no parent: the destructor of a process that cannot be killed would wait for it when the service ends.
-    auto *const run = new QProcess;
+    auto *const run = new QProcess(undyingParent());
     run->setProgram(u"sudo"_s);
     run->setArguments({u"-n"_s, helperFile(), verb, partition});
     run->setProcessChannelMode(QProcess::ForwardedChannels);
