@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "firstframe.h"
 
-#include <QCoreApplication>
+#include <QAbstractButton>
+#include <QApplication>
 #include <QEvent>
 #include <QFile>
 #include <QTimer>
+#include <QWidget>
 
 #include <cstdio>
 #include <ctime>
@@ -30,6 +32,23 @@ qint64 memoryKb(const QByteArray &name) {
     return 0;
 }
 
+/// Of which class of Qt's a widget is; what inherits QAbstractButton is a button like any other.
+QByteArray plainClassOf(const QWidget *widget) {
+    const QMetaObject *plain = widget->metaObject();
+    while (*plain->className() != 'Q')
+        plain = plain->superClass();
+    return plain == &QAbstractButton::staticMetaObject ? "QPushButton" : plain->className();
+}
+
+void printWidgets() {
+    for (const QWidget *const widget : QApplication::allWidgets()) {
+        QByteArray path;
+        for (const QWidget *each = widget; each; each = each->parentWidget())
+            path.prepend('/' + plainClassOf(each));
+        std::printf("%s %s\n", widget->isVisible() ? "shown" : "hidden", path.constData());
+    }
+}
+
 } // namespace
 
 FirstFrame::FirstFrame(QObject *parent) : QObject(parent) {
@@ -48,6 +67,8 @@ bool FirstFrame::eventFilter(QObject *object, QEvent *event) {
 void FirstFrame::report() {
     const qint64 elapsed = monotonicNs() - qgetenv("ZR_BENCH_START_NS").toLongLong();
     std::printf("%lld %lld %lld\n", elapsed / 1000, memoryKb("Rss"), memoryKb("Pss"));
+    if (qEnvironmentVariableIsSet("ZR_BENCH_WIDGETS"))
+        printWidgets();
     std::fflush(stdout);
     ::_exit(0);
 }

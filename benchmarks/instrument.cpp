@@ -10,6 +10,7 @@ using namespace Qt::Literals::StringLiterals;
 Instrument::Instrument(int plugins) {
     QDir(home.path()).mkpath(u"talvenor"_s);
     QFile::copy(QStringLiteral(FRAME_PLUGIN), home.filePath(u"libframe.so"_s));
+    QFile::copy(QStringLiteral(BARE_FRAME_PLUGIN), home.filePath(u"libbareframe.so"_s));
     for (int number = 0; number < plugins; ++number) {
         QFile::copy(QStringLiteral(TILE_PLUGIN), home.filePath(u"libtile%1.so"_s.arg(number)));
         QFile::copy(QStringLiteral(BARE_PLUGIN), home.filePath(u"libbare%1.so"_s.arg(number)));

@@ -6,7 +6,7 @@
 #include <QTemporaryDir>
 
 /// A home with a configuration and as many plug-ins as wanted, ten a page, each a library file of its own: for the
-/// launcher `libtileN.so`, for the floor `libbareN.so`. Besides, the launcher loads the watcher of its first frame.
+/// launcher `libtileN.so`, for the floor `libbareN.so`. Besides, both load the watcher of their first frame.
 class Instrument {
 public:
     static constexpr int iconsPerPage = 10;

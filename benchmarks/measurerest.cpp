@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the launcher costs at rest against the floor, both running side by side, and what reading and drawing the battery
 // costs:  measure-rest [SECONDS]
+#include "instrument.h"
 #include "power/apmreaderthread.h"
 #include "power/batteryindicator.h"
 #include "tablerow.h"
@@ -10,7 +11,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QThread>
 
 #include <cstdio>
@@ -62,17 +62,13 @@ void printRest(const Rate &launcher, const Rate &floor) {
     printTableRow(u"processor time a minute at rest, ms"_s, launcher.processorMs, floor.processorMs);
 }
 
-void measureRest(const QTemporaryDir &place, int seconds) {
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"XDG_CONFIG_HOME"_s, place.path());
-    environment.insert(u"ZR_SYSROOT"_s, place.path());
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+void measureRest(const Instrument &instrument, int icons, int seconds) {
     QProcess launcher;
     QProcess floor;
     for (QProcess *const process : {&launcher, &floor})
-        process->setProcessEnvironment(environment);
+        process->setProcessEnvironment(instrument.environment());
     launcher.start(QStringLiteral(LAUNCHER), {});
-    floor.start(QStringLiteral(FLOOR), {u"4"_s});
+    floor.start(QStringLiteral(FLOOR), {QString::number(icons), instrument.path()});
     constexpr unsigned long settlingSeconds = 4;
     QThread::sleep(settlingSeconds);
     const Use launcherBefore = useOf(launcher.processId());
@@ -100,17 +96,19 @@ void measure(const char *name, Work work) {
 
 int main(int argc, char *argv[]) {
     const int seconds = argc > 1 ? QByteArray(argv[1]).toInt() : 60;
-    const QTemporaryDir place;
+    constexpr int icons = 4;
+    const Instrument instrument(icons);
+    const QDir place(instrument.path());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("ZR_SYSROOT", place.path().toLocal8Bit());
-    QDir(place.path()).mkpath(u"proc"_s);
+    place.mkpath(u"proc"_s);
     QFile apm(place.filePath(u"proc/apm"_s));
     if (apm.open(QIODevice::WriteOnly))
         apm.write("1.16 1.2 0x03 0x00 0x00 0x01 76% 142 min\n");
     apm.close();
     const QApplication application(argc, argv);
 
-    measureRest(place, seconds);
+    measureRest(instrument, icons, seconds);
     ApmReaderThread reader;
     measure("one poll, line unchanged", [&reader](int) { reader.parseApmInfo(); });
     BatteryIndicator indicator;
