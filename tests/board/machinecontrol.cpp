@@ -11,10 +11,11 @@ namespace {
 
 constexpr int answerTime = 20'000;
 
-/// The event, and the device where it is about one that has a name. What is inside of a device has none.
+/// The event, and the device that it is about or the reason that it has. What is inside of a device has no name.
 QString eventOf(const QJsonObject &message) {
-    const QString device = message.value(u"data"_s).toObject().value(u"device"_s).toString();
-    return QString(message.value(u"event"_s).toString() + u' ' + device).trimmed();
+    const QJsonObject data = message.value(u"data"_s).toObject();
+    const QString detail = data.value(data.contains(u"device"_s) ? u"device"_s : u"reason"_s).toString();
+    return QString(message.value(u"event"_s).toString() + u' ' + detail).trimmed();
 }
 
 } // namespace

@@ -14,8 +14,8 @@ public:
     /// The answer's "return"; an empty object when it is an error, which is told on standard error.
     QJsonObject execute(const QString &command, const QJsonObject &arguments = {});
 
-    /// Whether the event came, now or since it was asked for the last time: "SHUTDOWN", or with the device that it is
-    /// about "DEVICE_DELETED flashdrive".
+    /// Whether the event came, now or since it was asked for the last time, with its reason or the device that it is
+    /// about: "SHUTDOWN guest-shutdown", "DEVICE_DELETED flashdrive".
     bool waitForEvent(const QString &event, int milliseconds);
 
 private:

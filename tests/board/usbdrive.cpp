@@ -56,7 +56,7 @@ UsbDrive::UsbDrive(const QString &file, int megabytes) : name(file) {
 
 QMap<QString, QByteArray> UsbDrive::contents() const {
     const QTemporaryDir copy;
-    // Directory and all below; a drive without any file is no mistake.
+    // Directory and all below; it complains of a drive without any file, which is no mistake.
     call(u"mcopy"_s, {u"-s"_s, u"-n"_s, u"-Q"_s, u"-i"_s, u"%1@@%2"_s.arg(name).arg(partitionStart), u"::"_s,
                       copy.path()});
     QMap<QString, QByteArray> files;
@@ -79,8 +79,11 @@ QByteArray UsbDrive::defects() const {
         return "not readable";
     part.write(disk.readAll());
     part.close();
+    const Answer answer = call(u"/sbin/fsck.vfat"_s, {u"-n"_s, partition});
+    if (answer.status < 0)
+        return "not checked: " + answer.output;
     QByteArray defects;
-    for (const QByteArray &line : call(u"/sbin/fsck.vfat"_s, {u"-n"_s, partition}).output.split('\n')) {
+    for (const QByteArray &line : answer.output.split('\n')) {
         if (!isAboutAPull(line))
             defects += line + '\n';
     }

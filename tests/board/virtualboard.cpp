@@ -1,14 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "virtualboard.h"
 
+#include <QFile>
 #include <QJsonArray>
 #include <QPoint>
+
+#include <csignal>
+#include <sys/prctl.h>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr int powerOffTime = 90'000;
+constexpr int pullTime = 10'000;
 /// The emulator's absolute coordinates go from 0 to this.
 constexpr int touchRange = 0x7fff;
 
@@ -38,7 +43,7 @@ bool VirtualBoard::start() {
     const QString line = sockets.filePath(u"shell"_s);
     const QString kernelLine =
         u"root=/dev/vda rw quiet console=tty0 video=%1x%2"_s.arg(screen.width()).arg(screen.height());
-    words << u"-accel"_s << u"tcg,thread=multi"_s << u"-smp"_s << u"2"_s << u"-m"_s << u"768"_s
+    words << u"-accel"_s << u"tcg,thread=multi"_s << u"-smp"_s << u"2"_s << u"-m"_s << u"1024"_s
           << u"-nodefaults"_s << u"-display"_s << u"none"_s << u"-no-reboot"_s                       //
           << u"-kernel"_s << image + "/vmlinuz"_L1 << u"-initrd"_s << image + "/initrd"_L1           //
           << u"-append"_s << kernelLine                                                              //
@@ -51,12 +56,15 @@ bool VirtualBoard::start() {
           << u"-chardev"_s << u"socket,id=line,server=on,wait=off,path=%1"_s.arg(line)               //
           << u"-qmp"_s << u"unix:%1,server=on,wait=off"_s.arg(qmp);
     emulator.setProcessChannelMode(QProcess::ForwardedChannels);
+    // It would take the whole machine from whoever comes next.
+    emulator.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     emulator.start(program, words);
     return emulator.waitForStarted() && control.connectTo(qmp) && shell.connectTo(line);
 }
 
 bool VirtualBoard::waitForPowerOff() {
-    return control.waitForEvent(u"SHUTDOWN"_s, powerOffTime) && emulator.waitForFinished();
+    // A restart would be "SHUTDOWN guest-reset".
+    return control.waitForEvent(u"SHUTDOWN guest-shutdown"_s, powerOffTime) && emulator.waitForFinished();
 }
 
 GuestShell::Result VirtualBoard::run(const QByteArray &command, int milliseconds) {
@@ -65,6 +73,7 @@ GuestShell::Result VirtualBoard::run(const QByteArray &command, int milliseconds
 
 QImage VirtualBoard::picture() {
     const QString file = sockets.filePath(u"picture.png"_s);
+    QFile::remove(file);
     control.execute(u"screendump"_s, {{u"filename"_s, file}, {u"format"_s, u"png"_s}});
     return QImage(file).convertToFormat(QImage::Format_RGB32);
 }
@@ -96,8 +105,11 @@ void VirtualBoard::touch(const QPoint &place) {
         sendInput(
             {{u"type"_s, u"btn"_s}, {u"data"_s, QJsonObject{{u"down"_s, down}, {u"button"_s, u"left"_s}}}});
     };
-    move(u"x"_s, place.x(), screen.width());
-    move(u"y"_s, place.y(), screen.height());
+    // The kernel tells where a finger is when that changes; a program that was started meanwhile would not know.
+    for (const QPoint &each : {QPoint(place.x() - 1, place.y() - 1), place}) {
+        move(u"x"_s, each.x(), screen.width());
+        move(u"y"_s, each.y(), screen.height());
+    }
     button(true);
     button(false);
 }
@@ -118,8 +130,9 @@ void VirtualBoard::plugDrive(const QString &drive) {
                                       {u"removable"_s, true}});
 }
 
-void VirtualBoard::pullDrive() {
+bool VirtualBoard::pullDrive() {
     control.execute(u"device_del"_s, {{u"id"_s, u"flashdrive"_s}});
-    control.waitForEvent(u"DEVICE_DELETED flashdrive"_s, 10'000);
+    const bool isOut = control.waitForEvent(u"DEVICE_DELETED flashdrive"_s, pullTime);
     control.execute(u"blockdev-del"_s, {{u"node-name"_s, u"flash"_s}});
+    return isOut;
 }

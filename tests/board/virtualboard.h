@@ -19,13 +19,13 @@ public:
 
     /// Whether its shell answers.
     bool start();
-    /// Whether it switched itself off.
+    /// Whether it switched itself off; a restart does not count.
     bool waitForPowerOff();
 
     GuestShell::Result run(const QByteArray &command, int milliseconds = 30'000);
 
     const QSize &screenSize() const { return screen; }
-    /// What the screen shows.
+    /// What the screen shows; a null image when it cannot be had.
     QImage picture();
 
     /// A key by the emulator's name for it, for instance "f4".
@@ -36,7 +36,8 @@ public:
 
     /// Plugs a flash drive in whose contents are the file `drive`; it stays one until it is pulled.
     void plugDrive(const QString &drive);
-    void pullDrive();
+    /// Whether it is out.
+    bool pullDrive();
 
 private:
     QStringList machine() const;
