@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Stores one value and dies at once, as at a power cut:  storevalue GROUP KEY VALUE [BYTES] [UID]
+// Tells each flush and each change of a name on standard output.
 // BYTES is the largest file that may be written (a full disk), UID the user to become (one without rights).
 #include <zrconfig.h>
 

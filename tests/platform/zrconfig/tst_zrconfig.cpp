@@ -7,6 +7,7 @@
 #include <QSettings>
 #include <QTest>
 
+#include <algorithm>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -38,6 +39,8 @@ QByteArray read(const QString &name) {
 struct Outcome {
     bool wasKilled;
     QByteArray errors;
+    /// Its flushes and changes of a name, in their order.
+    QByteArrayList steps;
 };
 
 /// What another program that stores a value and is killed right after says.
@@ -46,7 +49,8 @@ Outcome storeElsewhere(const QString &value, int mostBytes = 0, int uid = 0) {
     program.start(QStringLiteral(STOREVALUE),
                   {u"paths"_s, u"main"_s, value, QString::number(mostBytes), QString::number(uid)});
     program.waitForFinished();
-    return {program.exitStatus() == QProcess::CrashExit, program.readAllStandardError()};
+    return {program.exitStatus() == QProcess::CrashExit, program.readAllStandardError(),
+            program.readAllStandardOutput().split('\n')};
 }
 
 } // namespace
@@ -67,6 +71,7 @@ private slots:
     void textWithACommaStaysOneText();
     void userFallsBackOnTheSystemWideStore();
     void valueIsOnDiskWhenTheProgramIsKilledRightAfter();
+    void newStoreIsFlushedBeforeItTakesItsPlace();
     void damagedFileIsKeptAsideAndTheDefaultsHold_data();
     void damagedFileIsKeptAsideAndTheDefaultsHold();
     void otherValuesSurviveAWrite();
@@ -151,6 +156,20 @@ void ZrConfigTest::valueIsOnDiskWhenTheProgramIsKilledRightAfter() {
     QVERIFY(outcome.wasKilled);
     QCOMPARE(outcome.errors, QByteArray());
     QCOMPARE(read(storeFile()), "[paths]\nmain=reports\n"_ba);
+}
+
+void ZrConfigTest::newStoreIsFlushedBeforeItTakesItsPlace() {
+    write(storeFile(), "[paths]\nmain=old\n");
+    const QByteArrayList steps = storeElsewhere(u"reports"_s).steps;
+    const QByteArray inPlace = ' ' + QFile::encodeName(storeFile());
+    const auto change = std::ranges::find_if(steps, [&inPlace](const QByteArray &step) {
+        return step.startsWith("rename ") && step.endsWith(inPlace);
+    });
+    QVERIFY2(change != steps.cend(), steps.join('\n'));
+    const QByteArray newFile = change->chopped(inPlace.size()).mid(qstrlen("rename "));
+    QVERIFY2(std::find(steps.cbegin(), change, "flush " + newFile) != change, steps.join('\n'));
+    const QByteArray flushOfTheName = "flush " + QFile::encodeName(directory());
+    QVERIFY2(std::find(change, steps.cend(), flushOfTheName) != steps.cend(), steps.join('\n'));
 }
 
 void ZrConfigTest::damagedFileIsKeptAsideAndTheDefaultsHold_data() {
