@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -18,6 +19,21 @@ constexpr int longestStartMs = 20'000;
 
 bool isProbeThere() {
     return QDBusConnection::sessionBus().interface()->isServiceRegistered(u"zr.probe"_s);
+}
+
+/// What the installed simulator prints; nothing when it fails, which it tells on standard error itself.
+std::optional<QString>
+answerOfTheSimulator(const QString &words,
+                     const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment()) {
+    QProcess simulator;
+    simulator.setProcessEnvironment(environment);
+    simulator.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
+    const bool isDone = simulator.waitForFinished() && simulator.exitStatus() == QProcess::NormalExit &&
+                        simulator.exitCode() == 0;
+    if (!isDone)
+        return std::nullopt;
+    return QString::fromUtf8(simulator.readAllStandardOutput());
 }
 
 } // namespace
@@ -68,26 +84,30 @@ bool LauncherProcess::hasChildren() const {
     return children.open(QIODevice::ReadOnly) && !children.readAll().isEmpty();
 }
 
+void LauncherProcess::preload(const QString &library) {
+    environment.insert(u"LD_PRELOAD"_s, library);
+    // The sanitizers want to come first themselves.
+    environment.insert(u"ASAN_OPTIONS"_s,
+                       environment.value(u"ASAN_OPTIONS"_s) + ":verify_asan_link_order=0"_L1);
+}
+
 void LauncherProcess::setScreenHeight(int pixels) {
     const QString root = environment.value(u"ZR_SYSROOT"_s);
     QDir().mkpath(root + "/dev"_L1);
     QFile file(root + "/dev/fb0"_L1);
     if (file.open(QIODevice::WriteOnly))
         file.write(QByteArray::number(pixels));
-    environment.insert(u"LD_PRELOAD"_s, QStringLiteral(E2E_SCREEN));
-    // The sanitizers want to come first themselves.
-    environment.insert(u"ASAN_OPTIONS"_s,
-                       environment.value(u"ASAN_OPTIONS"_s) + ":verify_asan_link_order=0"_L1);
+    preload(QStringLiteral(E2E_SCREEN));
 }
 
-std::chrono::milliseconds LauncherProcess::slowestPress(const QString &nameOrText,
+std::chrono::milliseconds LauncherProcess::slowestPress(const QStringList &namesOrTexts,
                                                         std::chrono::milliseconds period) {
     std::chrono::milliseconds slowest{};
     const QDeadlineTimer end(period);
-    while (!end.hasExpired()) {
+    for (qsizetype number = 0; !end.hasExpired(); ++number) {
         QElapsedTimer clock;
         clock.start();
-        if (!press(nameOrText))
+        if (!press(namesOrTexts[number % namesOrTexts.size()]))
             return std::chrono::milliseconds::max();
         slowest = std::max(slowest, std::chrono::milliseconds(clock.elapsed()));
         // Takes what the launcher writes to its standard error, which would fill the pipe.
@@ -96,11 +116,17 @@ std::chrono::milliseconds LauncherProcess::slowestPress(const QString &nameOrTex
     return slowest;
 }
 
-void LauncherProcess::simulate(const QString &words, const QProcessEnvironment &environment) {
-    QProcess simulator;
-    simulator.setProcessEnvironment(environment);
-    simulator.start(QStringLiteral(E2E_TREE "/bin/zr-simulator"), words.split(u' '));
-    simulator.waitForFinished();
+bool LauncherProcess::simulate(const QString &words, const QProcessEnvironment &environment) {
+    return answerOfTheSimulator(words, environment).has_value();
+}
+
+bool LauncherProcess::removeCards() {
+    const std::optional<QString> cards = answerOfTheSimulator(u"card list"_s);
+    if (!cards)
+        return false;
+    const QStringList names = cards->split(u'\n', Qt::SkipEmptyParts);
+    return std::all_of(names.cbegin(), names.cend(),
+                       [](const QString &name) { return simulate("card remove "_L1 + name); });
 }
 
 QByteArray LauncherProcess::errors() {

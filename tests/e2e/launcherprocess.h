@@ -11,6 +11,9 @@
 /// The installed launcher as a process, and the probe inside it.
 class LauncherProcess {
 public:
+    /// A press that takes longer was held up.
+    static constexpr std::chrono::milliseconds longestPress{500};
+
     LauncherProcess();
     /// Ends the process if it still runs.
     ~LauncherProcess();
@@ -28,15 +31,20 @@ public:
     int waitForEnd();
     /// Sends it `signal` and waits until it is gone, from the bus as well. Its exit status, -1 when the signal ended it.
     int stop(int signal = SIGTERM);
-    /// Presses what is named again and again for a while: how long the slowest answer took.
-    std::chrono::milliseconds slowestPress(const QString &nameOrText, std::chrono::milliseconds period);
-    /// Lets the installed simulator do what `words` say, on the bus of `environment`.
-    static void simulate(const QString &words,
-                         const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+    /// Presses what is named, in turn, again and again for a while: how long the slowest answer took.
+    std::chrono::milliseconds slowestPress(const QStringList &namesOrTexts, std::chrono::milliseconds period);
+    /// Lets the installed simulator do what `words` say, on the bus of `environment`. False when it cannot.
+    [[nodiscard]] static bool
+    simulate(const QString &words,
+             const QProcessEnvironment &environment = QProcessEnvironment::systemEnvironment());
+    /// Takes all simulated cards out.
+    [[nodiscard]] static bool removeCards();
     qint64 processId() const { return process.processId(); }
     /// Whether a program that it started still runs.
     bool hasChildren() const;
 
+    /// Loads a library into the launcher before all others.
+    void preload(const QString &library);
     /// Gives the launcher a framebuffer of that height.
     void setScreenHeight(int pixels);
 

@@ -33,9 +33,6 @@ private:
         file.write(bytes);
         QVERIFY(file.rename(apm()));
     }
-    static QByteArray lineWith(int percentage) {
-        return "1.16 1.2 0x03 0x00 0x00 0x01 " + QByteArray::number(percentage) + "% 142 min\n";
-    }
     bool shows(const QString &charge) { return launcher->paintedTexts(u"StatusLabel"_s).contains(charge); }
 
     TestConfig config;
@@ -67,7 +64,7 @@ void InstalledBatteryTest::batteryIsShownAgainAfter_data() {
 void InstalledBatteryTest::batteryIsShownAgainAfter() {
     QFETCH(QString, fault);
     QFETCH(QString, shown);
-    write(lineWith(76));
+    QVERIFY(LauncherProcess::simulate(u"battery set 76"_s));
     QVERIFY2(launcher->start(), launcher->errors());
     QTRY_VERIFY(shows(u"76%"_s));
 
@@ -83,16 +80,16 @@ void InstalledBatteryTest::batteryIsShownAgainAfter() {
     else if (fault == "garbage"_L1)
         write(QByteArray(1024 * 1024, '\xff'));
     // More than the time from one poll to the next.
-    const auto slowest = launcher->slowestPress(u"Настройки"_s, 2500ms);
+    const auto slowest = launcher->slowestPress({u"Настройки"_s}, 2500ms);
     qInfo("slowest press %lld ms", static_cast<long long>(slowest.count()));
-    QVERIFY2(slowest < 2s, "the screen waited");
+    QVERIFY2(slowest < LauncherProcess::longestPress, "the screen waited");
     QTRY_VERIFY(shows(shown));
 
     if (fault == "directory"_L1)
         QVERIFY(QDir().rmdir(apm()));
     else if (fault != "vanished"_L1)
         QVERIFY(QFile::remove(apm()));
-    write(lineWith(50));
+    QVERIFY(LauncherProcess::simulate(u"battery set 50"_s));
     QTRY_VERIFY(shows(u"50%"_s));
     QCOMPARE(launcher->stop(), 0);
 }

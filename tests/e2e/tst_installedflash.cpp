@@ -10,7 +10,6 @@
 #include <QDBusMessage>
 #include <QDir>
 #include <QProcess>
-#include <QSettings>
 #include <QTest>
 #include <QTranslator>
 
@@ -82,11 +81,7 @@ private:
     static QString source() { return QDir::homePath() + "/reports"_L1; }
     static FilesBelow copied(const QString &drive) { return readFiles(host("/media/"_L1 + drive)); }
     /// What the launcher has stored for the plug-ins.
-    static QString stored(const QString &key) {
-        QSettings store(u"talvenor"_s, u"zr-launcher"_s);
-        store.sync();
-        return store.value("flash/"_L1 + key).toString();
-    }
+    static QString stored(const QString &key) { return TestConfig::stored("flash/"_L1 + key); }
     static QString question() {
         return text("FlashDialog",
                     "Do you want to copy all saved reports and trace files to flash?\n\n They will be saved "

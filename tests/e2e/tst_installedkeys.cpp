@@ -47,11 +47,7 @@ private:
 
 void InstalledKeysTest::init() {
     QVERIFY(!display.display().isEmpty());
-    QVERIFY(QDir().mkpath(root() + "/proc"_L1));
-    QFile apm(root() + "/proc/apm"_L1);
-    QVERIFY(apm.open(QIODevice::WriteOnly));
-    apm.write("1.16 1.2 0x03 0x00 0x00 0x01 76% 142 min\n");
-    apm.close();
+    QVERIFY(LauncherProcess::simulate(u"battery set 76"_s));
     config = TestConfig();
     const QString plugins = QStringLiteral(E2E_TREE "/" E2E_LIBRARY_DIR "/zr-launcher/plugins/");
     config.setPath(u""_s);

@@ -13,6 +13,12 @@ void TestConfig::set(const QString &key, const QVariant &value) {
     QSettings(u"talvenor"_s, u"zr-launcher"_s).setValue(key, value);
 }
 
+QString TestConfig::stored(const QString &key) {
+    QSettings store(u"talvenor"_s, u"zr-launcher"_s);
+    store.sync();
+    return store.value(key).toString();
+}
+
 void TestConfig::setPath(const QString &directory) {
     set(u"plugins/path"_s, directory);
 }

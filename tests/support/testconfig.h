@@ -10,6 +10,8 @@ public:
     TestConfig();
 
     void set(const QString &key, const QVariant &value);
+    /// What is on the disk by now, also by another process.
+    static QString stored(const QString &key);
 
     /// Where libraries are looked up.
     void setPath(const QString &directory);
