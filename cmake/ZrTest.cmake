@@ -1,15 +1,17 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 
-# zr_add_test(<name> SOURCES <file>... [LIBRARIES <target>...])
+# zr_add_test(<name> [MOUNTS] SOURCES <file>... [LIBRARIES <target>...])
 #
 # One test program under CTest. It runs with a home, a configuration, a system root, a user name and a
-# session bus of its own, on the offscreen platform.
+# session bus of its own, on the offscreen platform. MOUNTS: it mounts file systems, where the machine lets it.
 function(zr_add_test name)
-    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    cmake_parse_arguments(arg "MOUNTS" "" "SOURCES;LIBRARIES" ${ARGN})
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE zr_warnings Qt6::Test ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
-    add_test(NAME ${name} COMMAND ${PROJECT_SOURCE_DIR}/tests/support/isolated $<TARGET_FILE:${name}>)
+    set(support ${PROJECT_SOURCE_DIR}/tests/support)
+    set(place $<$<BOOL:${arg_MOUNTS}>:${support}/where-it-may-mount>)
+    add_test(NAME ${name} COMMAND ${place} ${support}/isolated $<TARGET_FILE:${name}> COMMAND_EXPAND_LISTS)
     set_tests_properties(${name} PROPERTIES TIMEOUT 120)
 endfunction()
 
