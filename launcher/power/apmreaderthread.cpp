@@ -24,9 +24,12 @@ ApmReaderThread::ApmReaderThread(QObject *parent) : QThread(parent) {
 ApmReaderThread::~ApmReaderThread() {
     quit();
     wait();
+    // The thread sanitizer does not see what wait() waits for.
+    const std::lock_guard ended(running);
 }
 
 void ApmReaderThread::run() {
+    const std::lock_guard lock(running);
     // A timer can only be started by the thread that it lives in.
     QMetaObject::invokeMethod(&pollTimer, "start", Qt::QueuedConnection);
     exec();

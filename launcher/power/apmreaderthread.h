@@ -6,6 +6,8 @@
 #include <QThread>
 #include <QTimer>
 
+#include <mutex>
+
 /// Polls /proc/apm every two seconds and tells what has changed.
 ///
 /// The thread only says when to begin: timer, file and signal belong to the thread that made the object, which has to be
@@ -34,4 +36,6 @@ private:
 
     QTimer pollTimer;
     QString lastLine;
+    /// The thread holds it while it runs.
+    std::mutex running;
 };

@@ -5,7 +5,10 @@
 #include <array>
 #include <csignal>
 #include <cstring>
+#include <poll.h>
 #include <pty.h>
+#include <semaphore>
+#include <sys/eventfd.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <sys/un.h>
@@ -37,24 +40,35 @@ void closeDescriptor(int &descriptor) {
 
 } // namespace
 
-FakeCard::FakeCard(Wire wireKind) : wire(wireKind), context(std::make_unique<QObject>()) {
+FakeCard::FakeCard(Wire wireKind) : wire(wireKind), workSignal(::eventfd(0, EFD_CLOEXEC)) {
     std::signal(SIGPIPE, SIG_IGN);
-    context->moveToThread(&thread);
-    thread.start();
-    inThread([this] {
-        listen(commandLine, QStringLiteral("commands"));
-        listen(updateLine, QStringLiteral("updates"));
-    });
+    listen(commandLine, QStringLiteral("commands"));
+    listen(updateLine, QStringLiteral("updates"));
+    thread = std::thread([this] { serve(); });
 }
 
 FakeCard::~FakeCard() {
     close();
-    thread.quit();
-    thread.wait();
+    inThread([this] { ends = true; });
+    thread.join();
+    closeDescriptor(workSignal);
 }
 
 void FakeCard::inThread(const std::function<void()> &work) const {
-    QMetaObject::invokeMethod(context.get(), work, Qt::BlockingQueuedConnection);
+    std::binary_semaphore done(0);
+    inThreadLater([&] {
+        work();
+        done.release();
+    });
+    done.acquire();
+}
+
+void FakeCard::inThreadLater(std::function<void()> work) const {
+    {
+        const std::lock_guard lock(mutex);
+        waitingWork.push_back(std::move(work));
+    }
+    ::eventfd_write(workSignal, 1);
 }
 
 void FakeCard::setReply(const QByteArray &command, const QByteArray &lines) {
@@ -108,18 +122,17 @@ void FakeCard::sendOn(Line &line, const QByteArray &bytes) {
     if (bytes.size() <= fitsInAnyLine)
         inThread(write);
     else
-        QMetaObject::invokeMethod(context.get(), write, Qt::QueuedConnection);
+        inThreadLater(write);
 }
 
 void FakeCard::closeUpdates() {
-    inThread([this] { hangUp(updateLine); });
+    inThread([this] { closeDescriptor(updateLine.peer); });
 }
 
 void FakeCard::close() {
     inThread([this] {
         for (Line *const line : {&commandLine, &updateLine}) {
-            hangUp(*line);
-            line->notifier.reset();
+            closeDescriptor(line->peer);
             closeDescriptor(line->listener);
             closeDescriptor(line->otherEnd);
         }
@@ -166,7 +179,6 @@ void FakeCard::listen(Line &line, const QString &name) {
         line.address = QStringLiteral("tcp:127.0.0.1:%1").arg(ntohs(address.sin_port));
     }
     ::listen(line.listener, 5);
-    watch(line);
 }
 
 void FakeCard::openPty(Line &line) {
@@ -175,22 +187,42 @@ void FakeCard::openPty(Line &line) {
     ::cfmakeraw(&settings);
     ::openpty(&line.peer, &line.otherEnd, name.data(), &settings, nullptr);
     line.address = QLatin1String("serial:") + QString::fromLatin1(name.data());
-    watch(line);
 }
 
-/// Watches the connection, or for a new one when there is none.
-void FakeCard::watch(Line &line) {
-    // The notifier may be the one that is calling.
-    if (line.notifier)
-        line.notifier.release()->deleteLater();
-    const int descriptor = line.peer >= 0 ? line.peer : line.listener;
-    line.notifier = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    QObject::connect(line.notifier.get(), &QSocketNotifier::activated, context.get(), [this, &line] {
-        if (line.peer >= 0)
-            read(line);
-        else
-            accept(line);
-    });
+void FakeCard::serve() {
+    // The connection, or a new one when there is none.
+    const auto watched = [](const Line &line) {
+        return pollfd{line.peer >= 0 ? line.peer : line.listener, POLLIN, 0};
+    };
+    while (!ends) {
+        std::array<pollfd, 3> all{pollfd{workSignal, POLLIN, 0}, watched(commandLine), watched(updateLine)};
+        ::poll(all.data(), all.size(), -1);
+        if (all[1].revents)
+            serve(commandLine);
+        if (all[2].revents)
+            serve(updateLine);
+        if (all[0].revents)
+            doWork();
+    }
+}
+
+void FakeCard::doWork() {
+    eventfd_t count = 0;
+    ::eventfd_read(workSignal, &count);
+    std::vector<std::function<void()>> works;
+    {
+        const std::lock_guard lock(mutex);
+        works.swap(waitingWork);
+    }
+    for (const std::function<void()> &work : works)
+        work();
+}
+
+void FakeCard::serve(Line &line) {
+    if (line.peer >= 0)
+        read(line);
+    else
+        accept(line);
 }
 
 void FakeCard::accept(Line &line) {
@@ -202,14 +234,13 @@ void FakeCard::accept(Line &line) {
         ++callCount;
         heldReplies.clear();
     }
-    watch(line);
 }
 
 void FakeCard::read(Line &line) {
     std::array<char, 4096> buffer{};
     const ssize_t length = ::read(line.peer, buffer.data(), buffer.size());
     if (length <= 0) {
-        hangUp(line);
+        closeDescriptor(line.peer);
         return;
     }
     line.received.append(buffer.data(), length);
@@ -223,18 +254,6 @@ void FakeCard::read(Line &line) {
         line.received.remove(0, lineFeed + 1);
         take(command);
     }
-}
-
-void FakeCard::hangUp(Line &line) {
-    if (line.peer < 0)
-        return;
-    if (line.notifier) {
-        line.notifier->setEnabled(false);
-        line.notifier.release()->deleteLater();
-    }
-    closeDescriptor(line.peer);
-    if (line.listener >= 0)
-        watch(line);
 }
 
 void FakeCard::take(const QByteArray &command) {
@@ -257,5 +276,5 @@ void FakeCard::send(const QByteArray &bytes) {
         writeAll(commandLine.peer, bytes);
     }
     if (std::exchange(hangsUp, false))
-        hangUp(commandLine);
+        closeDescriptor(commandLine.peer);
 }
