@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Counts by valgrind's tool callgrind how many instructions each phase takes, on standard output one figure a line, with
 // what they depend on besides: see docs/performance.md.
-#include "instrument.h"
+#include "benchmarkhome.h"
 
 #include <QFile>
 #include <QProcess>
@@ -54,16 +54,16 @@ void print(QTextStream &out, const QString &name, qint64 count) {
 }
 
 void countStart(QTextStream &out, int plugins) {
-    const Instrument instrument(plugins);
-    QProcessEnvironment environment = instrument.fixedEnvironment();
+    const BenchmarkHome home(plugins);
+    QProcessEnvironment environment = home.fixedEnvironment();
     environment.insert(u"ZR_BENCH_START_NS"_s, u"0"_s);
     // All but what fontconfig reads before its first answer: its parser's hashes begin with a random number.
     const QStringList options{u"--toggle-collect=FcInit"_s, u"--collect-atstart=yes"_s};
     const QString name = u"start-%1-plug-ins"_s.arg(plugins);
     print(out, name, instructionsOf(options, {QStringLiteral(LAUNCHER)}, environment));
-    print(out, name + "-floor"_L1,
-          instructionsOf(options, {QStringLiteral(FLOOR), QString::number(plugins), instrument.path()},
-                         environment));
+    print(
+        out, name + "-floor"_L1,
+        instructionsOf(options, {QStringLiteral(FLOOR), QString::number(plugins), home.path()}, environment));
 }
 
 /// Of one repetition: the median of three processes, since what memory looks like when the repetitions begin makes them
@@ -71,7 +71,7 @@ void countStart(QTextStream &out, int plugins) {
 void countRepaint(QTextStream &out, const QString &name, const QString &work, int repetitions) {
     QList<qint64> counts;
     for (int process = 0; process < 3; ++process) {
-        const Instrument home(0);
+        const BenchmarkHome home(0);
         counts.append(
             instructionsOf({u"--toggle-collect=repeatForCounting"_s},
                            {QStringLiteral(REPAINT), u"--only"_s, work, QString::number(repetitions)},

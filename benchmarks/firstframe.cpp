@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "firstframe.h"
 
+#include "monotonicclock.h"
+
 #include <QAbstractButton>
 #include <QApplication>
 #include <QEvent>
@@ -9,16 +11,9 @@
 #include <QWidget>
 
 #include <cstdio>
-#include <ctime>
 #include <unistd.h>
 
 namespace {
-
-qint64 monotonicNs() {
-    timespec now = {};
-    ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return qint64(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
-}
 
 /// The figure in kB behind `name` in the kernel's summary of this process's memory.
 qint64 memoryKb(const QByteArray &name) {

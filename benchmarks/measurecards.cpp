@@ -2,15 +2,15 @@
 // What cards cost: see docs/performance.md. Everything in one process on the offscreen platform, over a real bus and real
 // sockets:  dbus-run-session -- build/release/benchmarks/measure-cards
 #include "insertedcards.h"
+#include "median.h"
+#include "paintwatch.h"
+#include "processuse.h"
 #include "testconfig.h"
 
 #include <QApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
-#include <QPaintEvent>
 #include <QTemporaryDir>
 #include <QTimer>
 
@@ -24,25 +24,6 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Counts the paintings of the LED panel and how much of it they covered.
-class PaintWatch : public QObject {
-public:
-    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
-
-    int paintings = 0;
-    int lastArea = 0;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override {
-        if (event->type() == QEvent::Paint) {
-            ++paintings;
-            const QRect rect = static_cast<QPaintEvent *>(event)->region().boundingRect();
-            lastArea = rect.width() * rect.height();
-        }
-        return false;
-    }
-};
-
 template <typename Condition>
 bool runUntil(Condition condition) {
     QElapsedTimer timer;
@@ -50,11 +31,6 @@ bool runUntil(Condition condition) {
     while (!condition() && timer.elapsed() < 5000)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 10);
     return condition();
-}
-
-double median(QList<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
 }
 
 void sendSignal(const QString &name, const QVariantList &arguments) {
@@ -76,11 +52,11 @@ void measureAnnouncement(LauncherWindow &window, PaintWatch &watch) {
     for (int sn = 1; sn <= 100; ++sn) {
         FakeCard card;
         card.setReply("status alarms", "LOS\nAIS\nLOF\nRAI");
-        const int before = watch.paintings;
+        const int before = watch.paintings();
         QElapsedTimer timer;
         timer.start();
         sendSignal(u"inserted"_s, {u"gbe"_s, sn, card.cardiface(), card.poller()});
-        runUntil([&] { return window.cardType() == "GbE"_L1 && watch.paintings > before; });
+        runUntil([&] { return window.cardType() == "GbE"_L1 && watch.paintings() > before; });
         times.append(double(timer.nsecsElapsed()) / 1e6);
         sendSignal(u"removed"_s, {u"gbe"_s, sn});
         runUntil([&] { return cardsOf(window).isEmpty(); });
@@ -94,11 +70,11 @@ void measureUpdate(FakeCard &card, PaintWatch &watch) {
         // Longer than the interval in which updates are told together.
         std::this_thread::sleep_for(25ms);
         QCoreApplication::processEvents();
-        const int before = watch.paintings;
+        const int before = watch.paintings();
         QElapsedTimer timer;
         timer.start();
         card.sendUpdate(update(4, i % 2 ? "none" : "present"));
-        runUntil([&] { return watch.paintings > before; });
+        runUntil([&] { return watch.paintings() > before; });
         times.append(double(timer.nsecsElapsed()) / 1e6);
     }
     std::printf("indicator update to LED painted           %7.2f ms (median of 200)\n", median(times));
@@ -164,32 +140,17 @@ void measurePanel(LauncherWindow &window, PaintWatch &watch) {
         window.updateLeds(one);
         QCoreApplication::processEvents();
         std::printf("%3d LEDs: all change and are painted %6.3f ms; one change paints %d of %d pixels\n",
-                    number, all, watch.lastArea, panel->width() * panel->height());
+                    number, all, watch.lastArea(), panel->width() * panel->height());
     }
-}
-
-/// Voluntary and forced switches of all threads: each is a wake-up.
-qint64 contextSwitches() {
-    qint64 sum = 0;
-    for (const QString &thread : QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        QFile file(u"/proc/self/task/%1/status"_s.arg(thread));
-        if (!file.open(QIODevice::ReadOnly))
-            continue;
-        for (const QByteArray &line : file.readAll().split('\n')) {
-            if (line.contains("ctxt_switches"))
-                sum += line.mid(line.indexOf(':') + 1).trimmed().toLongLong();
-        }
-    }
-    return sum;
 }
 
 void measureRest() {
     constexpr int seconds = 20;
-    const qint64 before = contextSwitches();
+    const qint64 before = useOf(u"self"_s).wakeUps;
     QTimer::singleShot(seconds * 1000, qApp, &QCoreApplication::quit);
     QApplication::exec();
     std::printf("at rest with three cards: %lld wake-ups a minute\n",
-                static_cast<long long>((contextSwitches() - before) * 60 / seconds));
+                static_cast<long long>((useOf(u"self"_s).wakeUps - before) * 60 / seconds));
 }
 
 } // namespace

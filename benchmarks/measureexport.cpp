@@ -7,6 +7,7 @@
 // DIRECTORY is where the drive is thought to be, with room for 1.5 GB; the reports are made there too.
 #include "flash/flashdialog.h"
 #include "flash/flashspy.h"
+#include "median.h"
 #include "testconfig.h"
 #include "ui/launcherwindow.h"
 
@@ -79,11 +80,6 @@ private:
     std::atomic<bool> goesOn = true;
     std::thread sender;
 };
-
-double median(QList<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
 
 void writeFile(const QString &name, int bytes) {
     QByteArray block(qMin(bytes, megabyte), Qt::Uninitialized);

@@ -5,7 +5,9 @@
 //   measure-repaint --only WHAT TIMES
 //                                  one of the works below, repeated inside repeatForCounting()
 #include "barescreen.h"
-#include "instrument.h"
+#include "benchmarkhome.h"
+#include "median.h"
+#include "paintwatch.h"
 #include "tablerow.h"
 #include "ui/colourchoice.h"
 #include "ui/iconpage.h"
@@ -17,9 +19,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QPaintEvent>
 
-#include <algorithm>
 #include <cstdio>
 #include <functional>
 
@@ -36,23 +36,6 @@ constexpr double aimOfSwitch = 1.2;
 /// Work that paints; the argument counts its repetitions.
 using Work = std::function<void(int)>;
 using Works = QMap<QString, Work>;
-
-/// The largest area that a widget was asked to paint while this lives.
-class PaintWatch : public QObject {
-public:
-    PaintWatch() { qApp->installEventFilter(this); }
-
-    int pixels = 0;
-
-protected:
-    bool eventFilter(QObject *object, QEvent *event) override {
-        if (event->type() == QEvent::Paint && object->isWidgetType()) {
-            const QRect rect = static_cast<QPaintEvent *>(event)->region().boundingRect();
-            pixels = std::max(pixels, rect.width() * rect.height());
-        }
-        return false;
-    }
-};
 
 QString lampName(int index) {
     return u"L%1"_s.arg(index);
@@ -99,43 +82,54 @@ void finish() {
 /// Work that paints nothing would count as quick.
 void mustPaint(const Work &work) {
     for (int i = 0; i < 2; ++i) {
-        const PaintWatch watch;
+        const PaintWatch watch(qApp);
         work(i);
         finish();
-        if (watch.pixels == 0)
+        if (watch.paintings() == 0)
             qFatal("Nothing was painted.");
     }
 }
 
-double medianMs(const Work &work, int runs) {
-    mustPaint(work);
-    QList<double> times;
+double microseconds(const Work &work, int repetition) {
+    QElapsedTimer timer;
+    timer.start();
+    work(repetition);
+    finish();
+    return double(timer.nsecsElapsed()) / 1e3;
+}
+
+struct Medians {
+    double launcher = 0;
+    double floor = 0;
+};
+
+/// Both in turn, in microseconds.
+Medians compare(const Work &launcher, const Work &floor, int runs) {
+    mustPaint(launcher);
+    mustPaint(floor);
+    QList<double> launcherTimes;
+    QList<double> floorTimes;
     for (int i = 0; i < runs; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        work(i);
-        finish();
-        times.append(double(timer.nsecsElapsed()) / 1e6);
+        launcherTimes.append(microseconds(launcher, i));
+        floorTimes.append(microseconds(floor, i));
     }
-    std::sort(times.begin(), times.end());
-    return times[times.size() / 2];
+    return {median(launcherTimes), median(floorTimes)};
 }
 
 void printSwitch(const Works &works, int runs) {
-    const double launcher = medianMs(works[u"page-switch"_s], runs);
-    const double floor = medianMs(works[u"bare-page-switch"_s], runs);
-    printTableRow(u"page switch to painted frame, ms"_s, launcher, floor, u"1.20 × floor"_s,
-                  aimOfSwitch * floor);
+    const Medians us = compare(works[u"page-switch"_s], works[u"bare-page-switch"_s], runs);
+    printTableRow(u"page switch to painted frame, us"_s, us.launcher, us.floor, u"1.20 × floor"_s,
+                  aimOfSwitch * us.floor);
 }
 
 void printLamp(const Works &works, int runs, const QSize &panel) {
     const Work change = works[u"lamp"_s];
-    printTableRow(u"changed lamp to painted frame, ms"_s, medianMs(change, runs),
-                  medianMs(works[u"bare-label"_s], runs));
-    const PaintWatch watch;
+    const Medians us = compare(change, works[u"bare-label"_s], runs);
+    printTableRow(u"changed lamp to painted frame, us"_s, us.launcher, us.floor);
+    const PaintWatch watch(qApp);
     change(runs);
     finish();
-    printTableRow(u"one lamp of 24 changes, pixels painted (floor: the panel)"_s, watch.pixels,
+    printTableRow(u"one lamp of 24 changes, pixels painted (floor: the panel)"_s, watch.largestArea(),
                   panel.width() * panel.height(), u"one row of the panel"_s, panel.width() * lampRow);
 }
 
@@ -149,25 +143,48 @@ extern "C" [[gnu::noinline]] void repeatForCounting(const Work &work, int repeti
     }
 }
 
-int main(int argc, char *argv[]) {
-    const Instrument instrument(2 * Instrument::iconsPerPage);
-    const QProcessEnvironment environment = instrument.environment();
+namespace {
+
+/// Before the application is made.
+void wearEnvironment(const QProcessEnvironment &environment) {
     for (const char *const name : {"XDG_CONFIG_HOME", "XDG_CONFIG_DIRS", "ZR_SYSROOT", "QT_QPA_PLATFORM"})
         qputenv(name, environment.value(QString::fromLatin1(name)).toLocal8Bit());
     qunsetenv("ZR_BENCH_START_NS");
-    const QApplication application(argc, argv);
-    qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &, const QString &text) {
-        if (type == QtFatalMsg)
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-    });
+}
+
+void wearLook() {
     QApplication::setFont(QFont(u"Liberation Sans"_s));
     ColourChoice::wear(PaletteFactory::Day);
     QApplication::setStyle(new StyleOverride(QApplication::style()));
+}
+
+void printOnlyWhatEndsTheProgram(QtMsgType type, const QMessageLogContext &, const QString &text) {
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+}
+
+void repeatOne(const Works &works, const QString &name, int repetitions) {
+    const Work work = works.value(name);
+    if (!work)
+        qFatal("There is no work of that name.");
+    // What is made once only is made now.
+    mustPaint(work);
+    repeatForCounting(work, repetitions);
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    const BenchmarkHome home(2 * BenchmarkHome::iconsPerPage);
+    wearEnvironment(home.environment());
+    const QApplication application(argc, argv);
+    qInstallMessageHandler(printOnlyWhatEndsTheProgram);
+    wearLook();
 
     Screen screen;
     QCoreApplication::processEvents();
-    const int panelWidth = screen.window.findChild<LedPanel *>()->width();
-    BareScreen bare(screen.window.findChild<IconPage *>()->size(), {panelWidth, lampRow});
+    const auto *const panel = screen.window.findChild<LedPanel *>();
+    BareScreen bare(screen.window.findChild<IconPage *>()->size(), {panel->width(), lampRow});
     bare.show();
     QCoreApplication::processEvents();
     const Works works{{u"page-switch"_s, [&](int i) { screen.choosePage((i + 1) % 2); }},
@@ -176,20 +193,15 @@ int main(int argc, char *argv[]) {
                       {u"bare-label"_s, [&](int i) { bare.changeLabel(i % 2 == 0); }}};
     const QStringList words = QCoreApplication::arguments();
     if (words.value(1) == "--only"_L1) {
-        const Work work = works.value(words.value(2));
-        if (!work)
-            qFatal("There is no work of that name.");
         screen.setUpLamps();
         finish();
-        // What is made once only is made now.
-        mustPaint(work);
-        repeatForCounting(work, words.value(3).toInt());
+        repeatOne(works, words.value(2), words.value(3).toInt());
         return 0;
     }
     const int runs = words.size() > 1 ? words[1].toInt() : 301;
     printSwitch(works, runs);
     screen.setUpLamps();
     QCoreApplication::processEvents();
-    printLamp(works, runs, screen.window.findChild<LedPanel *>()->size());
+    printLamp(works, runs, panel->size());
     return 0;
 }

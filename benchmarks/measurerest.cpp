@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the launcher costs at rest against the floor, both running side by side, and what reading and drawing the battery
 // costs:  measure-rest [SECONDS]
-#include "instrument.h"
+#include "benchmarkhome.h"
 #include "power/apmreaderthread.h"
 #include "power/batteryindicator.h"
+#include "processuse.h"
 #include "tablerow.h"
 
 #include <QApplication>
@@ -19,39 +20,24 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct Use {
-    qint64 wakeUps = 0;
-    qint64 processorNs = 0;
-};
-
-QByteArray contents(const QString &name) {
-    QFile file(name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/// Of all threads: each switch to one of them is a wake-up.
-Use useOf(qint64 process) {
-    Use use;
-    const QString tasks = u"/proc/%1/task"_s.arg(process);
-    for (const QString &thread : QDir(tasks).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        for (const QByteArray &line : contents(tasks + u'/' + thread + "/status"_L1).split('\n')) {
-            if (line.contains("ctxt_switches"))
-                use.wakeUps += line.mid(line.indexOf(':') + 1).trimmed().toLongLong();
-        }
-        use.processorNs += contents(tasks + u'/' + thread + "/schedstat"_L1).split(' ').value(0).toLongLong();
-    }
-    return use;
-}
-
 /// What the battery is read for, every two seconds, and the clock, every minute.
 constexpr double wakeUpsAMinute = 30 + 1;
+
+ProcessUse useOfRunning(QProcess &process) {
+    // Nothing waits for news of its end otherwise.
+    process.waitForFinished(0);
+    if (process.state() != QProcess::Running)
+        qFatal("%s does not run: %s", qPrintable(process.program()),
+               process.readAllStandardError().constData());
+    return useOf(QString::number(process.processId()));
+}
 
 struct Rate {
     double wakeUps = 0;
     double processorMs = 0;
 };
 
-Rate rateOf(const Use &before, const Use &after, int seconds) {
+Rate rateOf(const ProcessUse &before, const ProcessUse &after, int seconds) {
     return {double(after.wakeUps - before.wakeUps) * 60 / seconds,
             double(after.processorNs - before.processorNs) * 60 / seconds / 1e6};
 }
@@ -62,20 +48,22 @@ void printRest(const Rate &launcher, const Rate &floor) {
     printTableRow(u"processor time a minute at rest, ms"_s, launcher.processorMs, floor.processorMs);
 }
 
-void measureRest(const Instrument &instrument, int icons, int seconds) {
+void measureRest(const BenchmarkHome &home, int icons, int seconds) {
     QProcess launcher;
     QProcess floor;
     for (QProcess *const process : {&launcher, &floor})
-        process->setProcessEnvironment(instrument.environment());
+        process->setProcessEnvironment(home.environment());
     launcher.start(QStringLiteral(LAUNCHER), {});
-    floor.start(QStringLiteral(FLOOR), {QString::number(icons), instrument.path()});
+    floor.start(QStringLiteral(FLOOR), {QString::number(icons), home.path()});
     constexpr unsigned long settlingSeconds = 4;
     QThread::sleep(settlingSeconds);
-    const Use launcherBefore = useOf(launcher.processId());
-    const Use floorBefore = useOf(floor.processId());
+    const ProcessUse launcherBefore = useOfRunning(launcher);
+    const ProcessUse floorBefore = useOfRunning(floor);
     QThread::sleep(static_cast<unsigned long>(seconds));
-    printRest(rateOf(launcherBefore, useOf(launcher.processId()), seconds),
-              rateOf(floorBefore, useOf(floor.processId()), seconds));
+    const Rate launcherRate = rateOf(launcherBefore, useOfRunning(launcher), seconds);
+    if (launcherRate.wakeUps == 0)
+        qFatal("The launcher does not even read the battery.");
+    printRest(launcherRate, rateOf(floorBefore, useOfRunning(floor), seconds));
     for (QProcess *const process : {&launcher, &floor}) {
         process->kill();
         process->waitForFinished();
@@ -97,8 +85,8 @@ void measure(const char *name, Work work) {
 int main(int argc, char *argv[]) {
     const int seconds = argc > 1 ? QByteArray(argv[1]).toInt() : 60;
     constexpr int icons = 4;
-    const Instrument instrument(icons);
-    const QDir place(instrument.path());
+    const BenchmarkHome home(icons);
+    const QDir place(home.path());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("ZR_SYSROOT", place.path().toLocal8Bit());
     place.mkpath(u"proc"_s);
@@ -108,7 +96,7 @@ int main(int argc, char *argv[]) {
     apm.close();
     const QApplication application(argc, argv);
 
-    measureRest(instrument, icons, seconds);
+    measureRest(home, icons, seconds);
     ApmReaderThread reader;
     measure("one poll, line unchanged", [&reader](int) { reader.parseApmInfo(); });
     BatteryIndicator indicator;

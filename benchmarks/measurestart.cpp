@@ -3,13 +3,12 @@
 // memory then. Prints rows of medians.
 //
 //   measure-start [RUNS]
-#include "instrument.h"
+#include "benchmarkhome.h"
+#include "median.h"
+#include "monotonicclock.h"
 #include "tablerow.h"
 
 #include <QProcess>
-
-#include <algorithm>
-#include <ctime>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -26,12 +25,6 @@ struct Sample {
     double proportionalMb = 0;
 };
 
-qint64 monotonicNs() {
-    timespec now = {};
-    ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return qint64(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
-}
-
 Sample run(const QString &program, const QStringList &arguments, QProcessEnvironment environment) {
     QProcess process;
     environment.insert(u"ZR_BENCH_START_NS"_s, QString::number(monotonicNs()));
@@ -44,18 +37,17 @@ Sample run(const QString &program, const QStringList &arguments, QProcessEnviron
     return {figures[0].toDouble() / 1000, figures[1].toDouble() / 1024, figures[2].toDouble() / 1024};
 }
 
-double median(const QList<Sample> &samples, double Sample::*figure) {
+double medianOf(const QList<Sample> &samples, double Sample::*figure) {
     QList<double> values;
     for (const Sample &sample : samples)
         values.append(sample.*figure);
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
+    return median(values);
 }
 
 void printRow(const QString &what, const QList<Sample> &launcher, const QList<Sample> &floor,
               double Sample::*figure, double aim) {
-    const double ours = median(launcher, figure);
-    const double least = median(floor, figure);
+    const double ours = medianOf(launcher, figure);
+    const double least = medianOf(floor, figure);
     if (aim > 0)
         printTableRow(what, ours, least, u"%1 × floor"_s.arg(aim, 0, 'f', 2), aim * least);
     else
@@ -67,13 +59,13 @@ void printRow(const QString &what, const QList<Sample> &launcher, const QList<Sa
 int main(int argc, char *argv[]) {
     const int runs = argc > 1 ? QByteArray(argv[1]).toInt() : 15;
     for (const int plugins : {0, 10, 70, 200}) {
-        const Instrument instrument(plugins);
+        const BenchmarkHome home(plugins);
         QList<Sample> launcher;
         QList<Sample> floor;
         for (int i = 0; i < runs; ++i) {
-            launcher.append(run(QStringLiteral(LAUNCHER), {}, instrument.environment()));
-            floor.append(run(QStringLiteral(FLOOR), {QString::number(plugins), instrument.path()},
-                             instrument.environment()));
+            launcher.append(run(QStringLiteral(LAUNCHER), {}, home.environment()));
+            floor.append(
+                run(QStringLiteral(FLOOR), {QString::number(plugins), home.path()}, home.environment()));
         }
         const bool hasAim = plugins <= mostWithAim;
         const QString with = u", %1 plug-ins"_s.arg(plugins);

@@ -13,10 +13,6 @@ QString figure(double value) {
 
 } // namespace
 
-void printTableHead() {
-    QTextStream(stdout) << "| figure | launcher | floor | ratio | aim | |\n|---|---|---|---|---|---|\n";
-}
-
 void printTableRow(const QString &what, double launcher, double floor, const QString &aim, double limit) {
     const QString verdict = launcher <= limit ? u"met"_s : u"missed"_s;
     QTextStream(stdout) << "| " << what << " | " << figure(launcher) << " | " << figure(floor) << " | "

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What the launcher is compared with must be worth the comparison.
-#include <instrument.h>
+#include <benchmarkhome.h>
 
 #include <QProcess>
 #include <QTest>
@@ -45,10 +45,10 @@ void FloorTest::hasTheLaunchersWidgets_data() {
 
 void FloorTest::hasTheLaunchersWidgets() {
     QFETCH(int, plugins);
-    const Instrument instrument(plugins);
-    const QByteArray launcher = widgetsOf(QStringLiteral(LAUNCHER), {}, instrument.environment());
-    const QByteArray floor = widgetsOf(QStringLiteral(FLOOR), {QString::number(plugins), instrument.path()},
-                                       instrument.environment());
+    const BenchmarkHome home(plugins);
+    const QByteArray launcher = widgetsOf(QStringLiteral(LAUNCHER), {}, home.environment());
+    const QByteArray floor = widgetsOf(QStringLiteral(FLOOR), {QString::number(plugins), home.path()},
+                                       home.environment());
     QVERIFY(launcher.count("/QWidget/QStackedWidget/QWidget/QWidget/QPushButton") >= plugins);
     QCOMPARE(floor, launcher);
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "instrument.h"
+#include "benchmarkhome.h"
 
 #include <QDir>
 #include <QFile>
@@ -7,7 +7,7 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-Instrument::Instrument(int plugins) {
+BenchmarkHome::BenchmarkHome(int plugins) {
     QDir(home.path()).mkpath(u"talvenor"_s);
     QFile::copy(QStringLiteral(FRAME_PLUGIN), home.filePath(u"libframe.so"_s));
     QFile::copy(QStringLiteral(BARE_FRAME_PLUGIN), home.filePath(u"libbareframe.so"_s));
@@ -19,7 +19,7 @@ Instrument::Instrument(int plugins) {
     writeFontConfiguration();
 }
 
-QProcessEnvironment Instrument::environment() const {
+QProcessEnvironment BenchmarkHome::environment() const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"XDG_CONFIG_HOME"_s, home.path());
     environment.insert(u"XDG_CONFIG_DIRS"_s, home.filePath(u"none"_s));
@@ -28,7 +28,7 @@ QProcessEnvironment Instrument::environment() const {
     return environment;
 }
 
-QProcessEnvironment Instrument::fixedEnvironment() const {
+QProcessEnvironment BenchmarkHome::fixedEnvironment() const {
     QProcessEnvironment environment;
     environment.insert(u"PATH"_s, u"/usr/sbin:/usr/bin:/sbin:/bin"_s);
     environment.insert(u"HOME"_s, home.path());
@@ -45,13 +45,13 @@ QProcessEnvironment Instrument::fixedEnvironment() const {
     return environment;
 }
 
-QString Instrument::pluginGroup(int number, int cell) const {
+QString BenchmarkHome::pluginGroup(int number, int cell) const {
     return u"[tile%1]\nver=2\nrow=%2\ncol=%3\nname=libtile%1.so\n"_s.arg(number)
         .arg(cell / 2 + 1)
         .arg(cell % 2 + 1);
 }
 
-void Instrument::writeConfiguration(int plugins) const {
+void BenchmarkHome::writeConfiguration(int plugins) const {
     QStringList pages;
     QString groups = u"[frame]\nver=2\nname=libframe.so\n"_s;
     QString lists;
@@ -74,7 +74,7 @@ void Instrument::writeConfiguration(int plugins) const {
                             << lists << groups;
 }
 
-void Instrument::writeFontConfiguration() const {
+void BenchmarkHome::writeFontConfiguration() const {
     QFile fonts(home.filePath(u"fonts.conf"_s));
     if (fonts.open(QIODevice::WriteOnly))
         QTextStream(&fonts) << "<?xml version=\"1.0\"?><!DOCTYPE fontconfig SYSTEM \"fonts.dtd\"><fontconfig>"

@@ -7,11 +7,11 @@
 
 /// A home with a configuration and as many plug-ins as wanted, ten a page, each a library file of its own: for the
 /// launcher `libtileN.so`, for the floor `libbareN.so`. Besides, both load the watcher of their first frame.
-class Instrument {
+class BenchmarkHome {
 public:
     static constexpr int iconsPerPage = 10;
 
-    explicit Instrument(int plugins);
+    explicit BenchmarkHome(int plugins);
 
     QString path() const { return home.path(); }
 
