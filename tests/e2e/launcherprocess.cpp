@@ -104,12 +104,14 @@ std::chrono::milliseconds LauncherProcess::slowestPress(const QStringList &names
                                                         std::chrono::milliseconds period) {
     std::chrono::milliseconds slowest{};
     const QDeadlineTimer end(period);
-    for (qsizetype number = 0; !end.hasExpired(); ++number) {
-        QElapsedTimer clock;
-        clock.start();
-        if (!press(namesOrTexts[number % namesOrTexts.size()]))
-            return std::chrono::milliseconds::max();
-        slowest = std::max(slowest, std::chrono::milliseconds(clock.elapsed()));
+    while (!end.hasExpired()) {
+        for (const QString &nameOrText : namesOrTexts) {
+            QElapsedTimer clock;
+            clock.start();
+            if (!press(nameOrText))
+                return std::chrono::milliseconds::max();
+            slowest = std::max(slowest, std::chrono::milliseconds(clock.elapsed()));
+        }
         // Takes what the launcher writes to its standard error, which would fill the pipe.
         QCoreApplication::processEvents();
     }

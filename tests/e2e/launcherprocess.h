@@ -31,7 +31,7 @@ public:
     int waitForEnd();
     /// Sends it `signal` and waits until it is gone, from the bus as well. Its exit status, -1 when the signal ended it.
     int stop(int signal = SIGTERM);
-    /// Presses what is named, in turn, again and again for a while: how long the slowest answer took.
+    /// Presses all that is named, in turn, again and again for a while: how long the slowest answer took.
     std::chrono::milliseconds slowestPress(const QStringList &namesOrTexts, std::chrono::milliseconds period);
     /// Lets the installed simulator do what `words` say, on the bus of `environment`. False when it cannot.
     [[nodiscard]] static bool

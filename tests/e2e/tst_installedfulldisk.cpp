@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto longestWait = 1s;
+constexpr auto longestWait = 2s;
 
 QByteArray read(const QString &name) {
     QFile file(name);
@@ -97,7 +97,7 @@ void InstalledFullDiskTest::pressInVain(const QStringList &texts, const std::fun
           static_cast<long long>(told), static_cast<long long>(slowest.count()),
           static_cast<long long>(QStorageInfo(disk->path()).bytesFree()));
     QVERIFY(std::chrono::milliseconds(told) < longestWait);
-    QVERIFY(slowest < LauncherProcess::longestPress);
+    QVERIFY(slowest < longestWait);
     QCOMPARE(QStorageInfo(disk->path()).bytesFree(), 0);
 }
 
