@@ -27,7 +27,7 @@ ProcessUse useOfRunning(QProcess &process) {
     // Nothing waits for news of its end otherwise.
     process.waitForFinished(0);
     if (process.state() != QProcess::Running)
-        qFatal("%s does not run: %s", qPrintable(process.program()),
+        qFatal("%s does not run: %s, %s", qPrintable(process.program()), qPrintable(process.errorString()),
                process.readAllStandardError().constData());
     return useOf(QString::number(process.processId()));
 }
