@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QEvent>
 #include <QFile>
+#include <QSet>
 #include <QTimer>
 #include <QWidget>
 
@@ -44,6 +45,20 @@ void printWidgets() {
     }
 }
 
+void printLibraries() {
+    QFile maps(QStringLiteral("/proc/self/maps"));
+    if (!maps.open(QIODevice::ReadOnly))
+        return;
+    QSet<QByteArray> libraries;
+    for (const QByteArray &line : maps.readAll().split('\n')) {
+        const QByteArray path = line.mid(line.indexOf('/'));
+        if (line.contains('/') && path.contains(".so"))
+            libraries.insert(path);
+    }
+    for (const QByteArray &library : libraries)
+        std::printf("opened %s\n", library.constData());
+}
+
 } // namespace
 
 FirstFrame::FirstFrame(QObject *parent) : QObject(parent) {
@@ -62,8 +77,10 @@ bool FirstFrame::eventFilter(QObject *object, QEvent *event) {
 void FirstFrame::report() {
     const qint64 elapsed = monotonicNs() - qgetenv("ZR_BENCH_START_NS").toLongLong();
     std::printf("%lld %lld %lld\n", elapsed / 1000, memoryKb("Rss"), memoryKb("Pss"));
-    if (qEnvironmentVariableIsSet("ZR_BENCH_WIDGETS"))
+    if (qEnvironmentVariableIsSet("ZR_BENCH_CONTENTS")) {
         printWidgets();
+        printLibraries();
+    }
     std::fflush(stdout);
     ::_exit(0);
 }

@@ -3,6 +3,7 @@
 
 #include <QDialog>
 #include <QGridLayout>
+#include <QImageReader>
 #include <QLabel>
 #include <QPluginLoader>
 #include <QProgressBar>
@@ -30,8 +31,11 @@ QWidget *makeIcon(int number, const QString &directory) {
 }
 
 QLabel *makePicture(const QString &name) {
+    // As the launcher does: no library for pictures of another kind is opened.
+    QImageReader reader(QStringLiteral(":/main/resources/") + name, "png");
+    reader.setAutoDetectImageFormat(false);
     auto *const label = new QLabel;
-    label->setPixmap(QPixmap(QStringLiteral(":/main/resources/") + name));
+    label->setPixmap(QPixmap::fromImageReader(&reader));
     return label;
 }
 

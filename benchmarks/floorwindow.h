@@ -5,8 +5,9 @@
 
 class QBoxLayout;
 
-/// The launcher's widgets in plain Qt, one for one: what inherits, contains and hides what is as in LauncherWindow, the
-/// pictures and texts are too, and nothing happens when one is pressed. A test compares both trees.
+/// The launcher's widgets in plain Qt, one for one: what inherits, contains and hides what is as in LauncherWindow, and so
+/// are the pictures; texts of about the same length stand in for the launcher's. Nothing happens when one is pressed. A
+/// test compares both trees.
 class FloorWindow : public QWidget {
     Q_OBJECT
 
