@@ -29,6 +29,9 @@ Sample run(const QString &program, const QStringList &arguments, QProcessEnviron
     QProcess process;
     environment.insert(u"ZR_BENCH_START_NS"_s, QString::number(monotonicNs()));
     process.setProcessEnvironment(environment);
+    // Not a pipe: this process would wake up for each line, on a processor that the launcher wants.
+    const QString errors = environment.value(u"XDG_CONFIG_HOME"_s) + "/errors"_L1;
+    process.setStandardErrorFile(errors);
     process.start(program, arguments);
     process.waitForFinished();
     const QByteArrayList figures = process.readAllStandardOutput().trimmed().split(' ');

@@ -5,6 +5,7 @@
 #include "installation.h"
 #include "power/keyfilter.h"
 #include "servicenotifier.h"
+#include "sessionbus.h"
 #include "terminationsignals.h"
 #include "ui/colourchoice.h"
 #include "ui/launcherwindow.h"
@@ -63,6 +64,9 @@ int main(int argc, char *argv[]) {
     QWSServer::setCursorVisible(false);
     QCoreApplication::installTranslator(&translator);
     registerInstallation();
+    // Early, since it has to wait for an answer that the window does not need yet; and not before the environment is what
+    // it will be, which it reads in a thread of its own.
+    SessionBus::instance();
     dress();
 
     LauncherWindow window;

@@ -34,7 +34,28 @@ SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QString()) {
     nextAttempt.setSingleShot(true);
     nextAttempt.setInterval(pauseBetweenAttempts);
     connect(&nextAttempt, SIGNAL(timeout()), this, SLOT(beginAttempt()));
-    if (isSilent()) {
+    // Hands are shaken while the window is made.
+    firstAttempt = std::async(std::launch::async, [] {
+        const bool answers = !isSilent();
+        if (answers)
+            QDBusConnection::sessionBus();
+        return answers;
+    });
+}
+
+SessionBus::~SessionBus() {
+    if (attempt)
+        attempt->wait();
+}
+
+QDBusConnection SessionBus::connection() {
+    if (firstAttempt.valid())
+        endFirstAttempt();
+    return current;
+}
+
+void SessionBus::endFirstAttempt() {
+    if (!firstAttempt.get()) {
         std::cerr << "The D-Bus session bus does not answer; waiting for it." << std::endl;
         nextAttempt.start();
         return;
@@ -42,11 +63,6 @@ SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QString()) {
     current = QDBusConnection::sessionBus();
     if (current.isConnected())
         watch();
-}
-
-SessionBus::~SessionBus() {
-    if (attempt)
-        attempt->wait();
 }
 
 void SessionBus::watch() {

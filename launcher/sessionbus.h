@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <future>
 #include <memory>
 
 class QThread;
@@ -18,11 +19,12 @@ class SessionBus : public QObject {
     Q_OBJECT
 
 public:
-    /// The one of the process; it goes with the application.
+    /// The one of the process; it goes with the application. The first call begins to connect, and does not wait.
     static SessionBus *instance();
     ~SessionBus() override;
 
-    QDBusConnection connection() const { return current; }
+    /// Not connected when there is no bus, or none that answers. The first call waits for the answer.
+    QDBusConnection connection();
 
 signals:
     /// There was none for a while, and what was told meanwhile is lost.
@@ -35,8 +37,10 @@ private slots:
 
 private:
     explicit SessionBus(QObject *parent);
+    void endFirstAttempt();
     void watch();
 
+    std::future<bool> firstAttempt;
     QDBusConnection current;
     QTimer nextAttempt;
     /// Connecting takes its time, which is not the screen's.
