@@ -177,6 +177,6 @@ void CardProcess::live(bool on) {
 void CardProcess::changeRandomAlarm() {
     const QStringList names = simulated.alarmNames();
     const QString &name = names.at(static_cast<qsizetype>(random()) % names.size());
-    simulated.setAlarm(name, !simulated.isPresent(name));
+    simulated.setAlarm(name, simulated.alarmState(name) != SimulatedCard::Present);
     sendUpdate();
 }

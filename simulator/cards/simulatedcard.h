@@ -25,7 +25,7 @@ public:
     bool setMode(Mode mode);
 
     QStringList alarmNames() const;
-    bool isPresent(const QString &alarm) const { return alarms.value(alarm) == Present; }
+    AlarmState alarmState(const QString &alarm) const { return alarms.value(alarm); }
     /// The states of all alarms as one line of the update stream, without its line end.
     QByteArray update() const;
 

@@ -63,6 +63,9 @@ public:
     QString shownPage() { return ask<QString>("shownPage"); }
     QString backButtonText() { return ask<QString>("backButtonText"); }
     QStringList selectorTexts() { return ask<QStringList>("selectorTexts"); }
+    int selectorCount() { return ask<int>("selectorCount"); }
+    int checkedSelector() { return ask<int>("checkedSelector"); }
+    bool pressSelector(int index) { return ask<bool>("pressSelector", {index}); }
     QStringList iconTexts() { return ask<QStringList>("iconTexts"); }
     QStringList pageTexts() { return ask<QStringList>("pageTexts"); }
     QStringList leds() { return ask<QStringList>("leds"); }
@@ -71,6 +74,8 @@ public:
     void closePopup() { probe->call(QStringLiteral("closePopup")); }
     QString shownPopup() { return ask<QString>("shownPopup"); }
     bool isActive() { return ask<bool>("isActive"); }
+    QString ground() { return ask<QString>("ground"); }
+    QStringList keysHeard() { return ask<QStringList>("keysHeard"); }
     bool hasPicture(const QString &name) { return ask<bool>("hasPicture", {name}); }
     QString message() { return ask<QString>("message"); }
     int progress() { return ask<int>("progress"); }

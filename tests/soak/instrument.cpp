@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "instrument.h"
 
+#include "filesbelow.h"
+
+#include <palettefactory.h>
+
 #include <QDateTime>
 #include <QDir>
 #include <QTest>
@@ -12,6 +16,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int longestWaitMs = 20'000;
+/// Bytes of what the launcher wrote.
+constexpr qsizetype longestQuote = 500;
 
 /// Enough that a slow copy can be interrupted. It is older than every report.
 constexpr int traceBytes = 100'000;
@@ -26,8 +32,30 @@ QString root() {
     return qEnvironmentVariable("ZR_SYSROOT");
 }
 
+QString brightnessFile() {
+    return root() + "/sys/devices/platform/pmmcu.0/brightness"_L1;
+}
+
+QByteArray contentOf(const QString &path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Forgets all that was ever copied to one: what is on a drive already would not be copied again.
+void emptyDrives() {
+    QDir(root() + "/var/lib/simulated-flash"_L1).removeRecursively();
+}
+
 QString reportsDirectory() {
     return QDir::homePath() + "/reports"_L1;
+}
+
+/// Names and sizes.
+QString listOf(const FilesBelow &files) {
+    QStringList texts;
+    for (auto file = files.cbegin(); file != files.cend(); ++file)
+        texts.append(u"%1 (%2)"_s.arg(QString::fromUtf8(file.key())).arg(file.value().size()));
+    return texts.join(u", "_s);
 }
 
 void writeTraces() {
@@ -47,7 +75,7 @@ void writeTraces() {
 Instrument::Instrument() {
     for (const QString &directory : {u"/var/run/tester"_s, u"/proc"_s, u"/sys/devices/platform/pmmcu.0"_s})
         QDir().mkpath(root() + directory);
-    QFile brightness(root() + "/sys/devices/platform/pmmcu.0/brightness"_L1);
+    QFile brightness(brightnessFile());
     static_cast<void>(brightness.open(QIODevice::WriteOnly));
     programs.put(u"rsync"_s, fastRsync);
     writeTraces();
@@ -89,37 +117,38 @@ QString Instrument::switchOn() {
 
 QString Instrument::perform(const Action &action) {
     failure.clear();
-    if (!carryOut(action) && failure.isEmpty())
+    if (!(carryOut(action) && pagesAreShown()) && failure.isEmpty())
         failure = u"cannot be done"_s;
+    if (!failure.isEmpty())
+        failure += "; the launcher said last: "_L1 + QString::fromUtf8(process.errors().right(longestQuote));
     return failure;
 }
 
-QString Instrument::differenceFrom(int pages, int reports) {
-    failure.clear();
+QString Instrument::differenceFrom(int reports) {
     if (!process.message().isEmpty())
         return "message: "_L1 + process.message();
     if (countReports() != reports)
         return u"%1 reports instead of %2"_s.arg(countReports()).arg(reports);
-    // The pages' buttons are covered by a window.
-    comes(u"%1 pages"_s.arg(pages), [&] {
-        return process.shownPage() != "pageLauncher"_L1 || process.selectorTexts().size() == pages;
-    });
-    return failure;
+    if (const QStringList keys = process.keysHeard(); !keys.isEmpty())
+        return "keys that windows should not hear of: "_L1 + keys.join(u' ');
+    return {};
 }
 
 bool Instrument::carryOut(const Action &action) {
     const QString word = action.words.value(0);
     switch (action.kind) {
     case Action::InsertCard:
+        pages.insert(action.words);
         return simulate(QStringList{u"card"_s, u"insert"_s} + action.words);
     case Action::RemoveCard:
+        pages.remove(word);
         return simulate({u"card"_s, u"remove"_s, word});
     case Action::RaiseAlarm:
-        return simulate({u"card"_s, u"alarm"_s, word, action.words.at(1), u"present"_s});
+        return alarm(word, action.words.at(1), true);
     case Action::EndAlarm:
-        return simulate({u"card"_s, u"alarm"_s, word, action.words.at(1), u"none"_s});
+        return alarm(word, action.words.at(1), false);
     case Action::ForgetAlarms:
-        return press(u"ledPanel"_s);
+        return forgetAlarms();
     case Action::ShowPage:
         return showPage(word.toInt());
     case Action::OpenWindow:
@@ -129,13 +158,13 @@ bool Instrument::carryOut(const Action &action) {
     case Action::OpenPopup:
         return openPopup(word);
     case Action::ChangeColours:
-        return showPage(0) && press(u"Ночные цвета"_s);
+        return changeColours();
     case Action::PressKey:
-        return word == "F4"_L1 ? toggleInformation() : pressKey(word);
+        return useKey(word);
     case Action::AskForPower:
         return askForPower();
     case Action::SetCharge:
-        return simulate(QStringList{u"battery"_s, u"set"_s} + action.words);
+        return setCharge(action.words);
     case Action::RefuseExport:
         return insertDrive(word) && press(u"Нет"_s) && messageGoes() && removeDrive();
     case Action::Export:
@@ -211,10 +240,39 @@ bool Instrument::popupGoes() {
     return comes(u"end of the pop-up"_s, [this] { return process.shownPopup().isEmpty(); });
 }
 
+bool Instrument::pagesAreShown() {
+    if (!comes(u"%1 pages"_s.arg(pages.count()), [this] { return process.selectorCount() == pages.count(); }))
+        return false;
+    // Which page follows a card that is taken away is the launcher's choice.
+    if (pages.shown() < 0)
+        pages.show(qMax(0, process.checkedSelector()));
+    return comes(u"page %1"_s.arg(pages.shown()),
+                 [this] { return process.checkedSelector() == pages.shown(); }) &&
+           comes(pages.lamps().join(u' '), [this] { return process.leds() == pages.lamps(); });
+}
+
+/// Of a card whose page is not shown nothing is to be seen before it is.
+bool Instrument::alarm(const QString &card, const QString &name, bool isPresent) {
+    pages.setAlarm(card, name, isPresent);
+    return simulate({u"card"_s, u"alarm"_s, card, name, isPresent ? u"present"_s : u"none"_s});
+}
+
+bool Instrument::forgetAlarms() {
+    // There should be something to forget.
+    const int page = pages.pageWithPastAlarm();
+    if (page >= 0 && !showPage(page))
+        return false;
+    pages.forgetAlarms();
+    return press(u"ledPanel"_s);
+}
+
 bool Instrument::showPage(int index) {
     process.goHome();
-    const QString button = process.selectorTexts().value(index);
-    return press(button) && comes(button, [&] { return process.caption() == button; });
+    const QString text = process.selectorTexts().value(index);
+    pages.show(index);
+    if (!process.pressSelector(index))
+        failure = u"no page %1"_s.arg(index);
+    return failure.isEmpty() && comes(text, [&] { return process.caption() == text; }) && pagesAreShown();
 }
 
 bool Instrument::openWindow(const QString &icon) {
@@ -232,6 +290,61 @@ bool Instrument::openPopup(const QString &opener) {
         return false;
     process.closePopup();
     return popupGoes();
+}
+
+bool Instrument::changeColours() {
+    isNight = !isNight;
+    PaletteFactory::setSet(isNight ? PaletteFactory::Night : PaletteFactory::Day);
+    const QString ground = PaletteFactory::getPalette(u"GenericWindow"_s).color(QPalette::Window).name();
+    return showPage(0) && press(u"Ночные цвета"_s) && comes("ground "_L1 + ground, [&] {
+               return process.ground() == ground && process.isScreenUpToDate();
+           });
+}
+
+bool Instrument::chargeIsShown() {
+    return comes("charge "_L1 + charge.join(u' '), [this] {
+        const QStringList texts = process.paintedTexts(u"StatusLabel"_s);
+        return texts.contains(charge.at(0) + u'%') &&
+               texts.contains(u"Заряжается"_s) == (charge.at(1) == "charging"_L1);
+    });
+}
+
+bool Instrument::setCharge(const QStringList &words) {
+    if (!charge.isEmpty() && !chargeIsShown())
+        return false;
+    charge = words;
+    return simulate(QStringList{u"battery"_s, u"set"_s} + words);
+}
+
+bool Instrument::useKey(const QString &key) {
+    if (key == "Home"_L1)
+        return goHome();
+    if (key == "F3"_L1)
+        return changeBrightness();
+    if (key == "F4"_L1)
+        return toggleInformation();
+    return letGo(key, key == "F1"_L1 ? Qt::Key_F1 : Qt::Key_F2);
+}
+
+bool Instrument::goHome() {
+    // There has to be something to leave.
+    return (process.shownPage() != "pageLauncher"_L1 || openWindow(u"Система"_s)) && pressKey(u"Home"_s) &&
+           comes(u"page behind the window"_s, [this] { return process.shownPage() == "pageLauncher"_L1; });
+}
+
+bool Instrument::changeBrightness() {
+    isBright = !isBright;
+    const QByteArray level = isBright ? "255" : "1";
+    return pressKey(u"F3"_s) && comes("brightness "_L1 + QString::fromLatin1(level),
+                                      [&] { return contentOf(brightnessFile()) == level; });
+}
+
+bool Instrument::letGo(const QString &key, Qt::Key number) {
+    QStringList heard;
+    return pressKey(key) && comes(key, [&] {
+               heard += process.keysHeard();
+               return heard == QStringList(QString::number(-number));
+           });
 }
 
 /// Pages of cards have nothing to tell here.
@@ -253,10 +366,14 @@ bool Instrument::removeDrive() {
 
 bool Instrument::exportTo(const QString &partition) {
     removalIsTold = true;
-    const QFileInfo copy(root() + u"/media/%1/reports/trace-%2.sor"_s.arg(partition).arg(traces - 1));
-    return insertDrive(partition) && press(u"Да"_s) && messageGoes() &&
-           comes(u"whole copy"_s, [&] { return QFileInfo(copy.filePath()).size() == traceBytes; }) &&
-           removeDrive();
+    emptyDrives();
+    if (!insertDrive(partition) || !press(u"Да"_s) || !messageGoes())
+        return false;
+    const FilesBelow exported = readFiles(reportsDirectory());
+    const FilesBelow copies = readFiles(root() + u"/media/%1/reports"_s.arg(partition));
+    if (copies != exported)
+        failure = u"copied %1; to be exported %2"_s.arg(listOf(copies), listOf(exported));
+    return failure.isEmpty() && removeDrive();
 }
 
 bool Instrument::pullAskedDrive(const QString &partition) {
@@ -269,8 +386,7 @@ bool Instrument::pullAskedDrive(const QString &partition) {
 
 bool Instrument::pullDrive(const QString &partition) {
     removalIsTold = false;
-    // What is on the drive already would not be copied again.
-    QDir(root() + "/var/lib/simulated-flash"_L1).removeRecursively();
+    emptyDrives();
     programs.put(u"rsync"_s, slowRsync);
     const bool told = insertDrive(partition) && press(u"Да"_s) &&
                       comes(u"copy"_s, [this] { return process.progress() > 0; }) && removeDrive() &&

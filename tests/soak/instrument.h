@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "cardpages.h"
 #include "launcherprocess.h"
 #include "scenario.h"
 #include "standinprograms.h"
@@ -20,7 +21,7 @@ public:
     /// Does it and waits until the launcher shows what comes of it. What is not as it has to be, or nothing.
     QString perform(const Action &action);
     /// What is not as it has to be after an action, or nothing.
-    QString differenceFrom(int pages, int reports);
+    QString differenceFrom(int reports);
     LauncherProcess &launcher() { return process; }
 
 private:
@@ -37,12 +38,25 @@ private:
     bool messageGoes();
     bool popupComes();
     bool popupGoes();
+    /// Whether there are the pages that have to be, the right one is shown, and its lamps are as they should be.
+    bool pagesAreShown();
+    bool alarm(const QString &card, const QString &name, bool isPresent);
+    bool forgetAlarms();
     bool showPage(int index);
     bool openWindow(const QString &icon);
     bool openSettings();
     bool openReports();
     bool openPopup(const QString &opener);
+    bool changeColours();
+    bool chargeIsShown();
+    /// The launcher looks every two seconds only; so each charge is waited for before the next one is set.
+    bool setCharge(const QStringList &words);
+    bool useKey(const QString &key);
+    bool goHome();
+    bool changeBrightness();
     bool toggleInformation();
+    /// A key that the windows hear of only when it is let go.
+    bool letGo(const QString &key, Qt::Key number);
     bool askForPower();
     /// Waits for the question as well.
     bool insertDrive(const QString &partition);
@@ -62,6 +76,11 @@ private:
     StandInPrograms programs;
     XServer display;
     LauncherProcess process;
+    CardPages pages;
+    /// Percentage and state; empty before the first.
+    QStringList charge;
+    bool isNight = false;
+    bool isBright = false;
     QString failure;
     /// After an export, the next drive that is pulled in the face of the question is told of.
     bool removalIsTold = false;

@@ -111,7 +111,7 @@ Action Scenario::made(Action::Kind kind) {
     case Action::OpenPopup:
         return {kind, {oneOf(popups)}};
     case Action::PressKey:
-        return {kind, {oneOf({u"Home"_s, u"F3"_s, u"F4"_s})}};
+        return {kind, {oneOf({u"Home"_s, u"F1"_s, u"F2"_s, u"F3"_s, u"F4"_s})}};
     case Action::SetCharge:
         return {kind, {QString::number(below(percent + 1)), oneOf({u"charging"_s, u"discharging"_s})}};
     case Action::RefuseExport:

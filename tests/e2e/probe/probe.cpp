@@ -25,6 +25,9 @@
 
 #include <qpa/qwindowsysteminterface.h>
 
+#include <algorithm>
+#include <utility>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -49,6 +52,10 @@ const Widget *firstIn(const QWidget &dialog) {
     return nullptr;
 }
 
+QList<CheckButton *> selectors() {
+    return LauncherWindow::instance()->findChild<QWidget *>(u"pageLauncher"_s)->findChildren<CheckButton *>();
+}
+
 QWidget *header() {
     for (QWidget *const child : LauncherWindow::instance()->findChildren<QWidget *>()) {
         if (child->inherits("LauncherHeader"))
@@ -67,6 +74,30 @@ void pressAt(QWidget *widget, QPointF position) {
 }
 
 } // namespace
+
+Probe::Probe() {
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+bool Probe::eventFilter(QObject *watched, QEvent *event) {
+    // Before the window has chosen a widget, which may hand the key on to others.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (isKey && watched->isWindowType()) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        heardKeys.append(QString::number(event->type() == QEvent::KeyPress ? key : -key));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+QStringList Probe::keysHeard() {
+    return std::exchange(heardKeys, {});
+}
+
+QString Probe::ground() const {
+    LauncherWindow *const window = LauncherWindow::instance();
+    const QRect corner(window->getStackedWidget()->mapTo(window, QPoint()), QSize(1, 1));
+    return window->grab(corner).toImage().pixelColor(0, 0).name();
+}
 
 QStringList Probe::windowSize() const {
     const QSize size = LauncherWindow::instance()->size();
@@ -90,6 +121,25 @@ QString Probe::shownPage() const {
 
 QStringList Probe::selectorTexts() const {
     return textsOf<CheckButton>();
+}
+
+int Probe::selectorCount() const {
+    return static_cast<int>(selectors().size());
+}
+
+int Probe::checkedSelector() const {
+    const QList<CheckButton *> buttons = selectors();
+    const auto checked = std::find_if(buttons.cbegin(), buttons.cend(),
+                                      [](const CheckButton *button) { return button->isChecked(); });
+    return checked == buttons.cend() ? -1 : static_cast<int>(checked - buttons.cbegin());
+}
+
+bool Probe::pressSelector(int index) const {
+    CheckButton *const button = selectors().value(index);
+    if (!button || !button->isVisible())
+        return false;
+    pressAt(button, QRectF(button->rect()).center());
+    return true;
 }
 
 QStringList Probe::iconTexts() const {
@@ -206,8 +256,8 @@ void Probe::goHome() const {
 QStringList Probe::holdings() const {
     const Holdings held = holdingsOf(*LauncherWindow::instance());
     QStringList numbers;
-    for (const qint64 number : {qint64(held.widgets), qint64(held.objects), qint64(held.descriptors),
-                                qint64(held.matchRules), residentBytes()})
+    for (const qint64 number : {held.counts.widgets, held.counts.objects, held.counts.descriptors,
+                                held.counts.matchRules, held.residentBytes})
         numbers.append(QString::number(number));
     return numbers;
 }

@@ -19,6 +19,11 @@ public slots:
     /// Object name, or else class name, of what the main stack shows.
     QString shownPage() const;
     QStringList selectorTexts() const;
+    /// How many buttons of pages there are, those that a window covers among them.
+    int selectorCount() const;
+    /// Which of them is the shown page's, counted from 0; -1 when none is.
+    int checkedSelector() const;
+    bool pressSelector(int index) const;
     QStringList iconTexts() const;
     /// Texts of the labels and text views on what the main stack shows.
     QStringList pageTexts() const;
@@ -28,6 +33,10 @@ public slots:
     QString shownPopup() const;
     void closePopup() const;
     bool isActive() const;
+    /// Colour of the page's ground, as it is painted: "#rrggbb".
+    QString ground() const;
+    /// Keys that windows were given since the last question: numbers, negative when let go.
+    QStringList keysHeard();
     /// Whether the label of that name shows a picture.
     bool hasPicture(const QString &name) const;
     /// Text of the topmost message that is open.
@@ -60,12 +69,17 @@ public slots:
     bool grab(const QString &file) const;
 
 public:
+    Probe();
+
     void countShortcut() { ++shortcutCount; }
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
     void windowWanted();
 
 private:
     int shortcutCount = 0;
+    QStringList heardKeys;
+
     QWidget *named(const QString &nameOrText) const;
 };
