@@ -41,6 +41,8 @@ struct DirCopier::Copy : public QObject {
 DirCopier::DirCopier(QObject *parent) : QObject(parent) {}
 
 DirCopier::~DirCopier() {
+    if (cleaner && cleaner->endAndWait())
+        delete cleaner;
     if (!copy || !copy->process)
         return;
     copy->process->disconnect(this);
@@ -69,7 +71,15 @@ void DirCopier::copyDir(QStringList &sources, const QString &destination) {
             Qt::QueuedConnection);
         return;
     }
-    run(CopyCommands::prepare(destination), &DirCopier::prepared);
+    // The directory that is being taken away has the name of the one that is to be made.
+    if (cleaner)
+        connect(cleaner, &QObject::destroyed, copy.get(), [this] { prepare(); });
+    else
+        prepare();
+}
+
+void DirCopier::prepare() {
+    run(CopyCommands::prepare(copy->destination), &DirCopier::prepared);
 }
 
 void DirCopier::refuse() {
@@ -202,6 +212,10 @@ void DirCopier::cancel() {
 
 void DirCopier::cleanUpUnlessCopying(const QString &destination) {
     // Another copy to the same place has emptied the directory already, and uses it.
-    if (!copy)
-        startDetached(CopyCommands::cleanUp(destination));
+    if (copy || cleaner)
+        return;
+    cleaner = new CopyProcess(CopyCommands::cleanUp(destination));
+    connect(cleaner, &QProcess::finished, cleaner, &QObject::deleteLater);
+    connect(cleaner, &QProcess::errorOccurred, cleaner, &QObject::deleteLater);
+    cleaner->start();
 }

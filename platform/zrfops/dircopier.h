@@ -2,11 +2,13 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <QProcess>
 #include <QStringList>
 
 #include <memory>
 
+class CopyProcess;
 namespace CopyCommands {
 struct Command;
 }
@@ -55,6 +57,7 @@ private:
     /// What stands on the drive under the name of a directory that is to be copied and is none.
     QString obstacleInTheWay() const;
     void run(const CopyCommands::Command &command, Handler ended);
+    void prepare();
     void prepared(int exitCode, QProcess::ExitStatus exitStatus);
     void readProgress();
     void copied(int exitCode, QProcess::ExitStatus exitStatus);
@@ -70,4 +73,6 @@ private:
 
     /// The running copy, or null.
     std::unique_ptr<Copy> copy;
+    /// Takes away what a cancelled copy has left.
+    QPointer<CopyProcess> cleaner;
 };

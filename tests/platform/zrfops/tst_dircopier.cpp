@@ -103,6 +103,7 @@ private slots:
     void leftoversOfAPulledDriveAreRemoved();
     void linkInPlaceOfTheLeftoversIsNotFollowed();
     void cancelledCopyTakesItsLeftoversAway();
+    void copyAfterACancelledOneWaitsForItsCleaning();
     void fileInTheWayIsKept();
     void linkInTheWayIsNotFollowed();
     void driveBelowTheSourceIsNotCopiedIntoItself();
@@ -492,6 +493,24 @@ void DirCopierTest::cancelledCopyTakesItsLeftoversAway() {
     QTRY_VERIFY(desk.progress.size() > 2);
     desk.copier.cancel();
     QTRY_COMPARE(namesIn(desk.drive()), QStringList(u"reports"_s));
+}
+
+void DirCopierTest::copyAfterACancelledOneWaitsForItsCleaning() {
+    StandInPrograms programs;
+    programs.put(u"rsync"_s, slowRsync);
+    Desk desk;
+    writeFiles(desk.source(), {{"long", QByteArray(5000000, 'x')}});
+    desk.begin(desk.source(), desk.drive());
+    QTRY_VERIFY(desk.progress.size() > 2);
+    // The first one is slow.
+    programs.put(u"rm"_s, "[ -e $0.log ] || { echo $$ >$0.log; sleep 0.3; }; exec /bin/rm \"$@\"");
+    desk.copier.cancel();
+    QTRY_VERIFY(!programs.log(u"rm"_s).isEmpty());
+    desk.ends.clear();
+    programs.put(u"rsync"_s, "sleep 0.6; exec /usr/bin/rsync \"$@\"");
+    QVERIFY(desk.copy());
+    QCOMPARE(desk.exitCode(), 0);
+    QCOMPARE(readFiles(desk.drive() + "/reports"_L1), readFiles(desk.source()));
 }
 
 void DirCopierTest::fileInTheWayIsKept() {
