@@ -36,21 +36,25 @@ struct DirCopier::Copy : public QObject {
     /// How rsync ended; the drive is flushed whatever it is.
     int exitCode = 0;
     QProcess::ExitStatus exitStatus = QProcess::NormalExit;
+    bool waitsForCleaner = false;
 };
 
 DirCopier::DirCopier(QObject *parent) : QObject(parent) {}
 
 DirCopier::~DirCopier() {
-    if (cleaner && cleaner->endAndWait())
-        delete cleaner;
-    if (!copy || !copy->process)
-        return;
-    copy->process->disconnect(this);
-    // One that hangs in the kernel cannot be waited for: its object is left to the end of the program.
-    if (copy->process->endAndWait()) {
-        delete copy->process;
+    if (cleaner)
+        endAndDelete(cleaner);
+    if (copy && copy->process && endAndDelete(copy->process))
         startDetached(CopyCommands::cleanUp(copy->destination));
-    }
+}
+
+bool DirCopier::endAndDelete(CopyProcess *process) {
+    process->disconnect(this);
+    // One that hangs in the kernel cannot be waited for: its object is left to the end of the program.
+    if (!process->endAndWait())
+        return false;
+    delete process;
+    return true;
 }
 
 bool DirCopier::isCopying() const {
@@ -72,9 +76,8 @@ void DirCopier::copyDir(QStringList &sources, const QString &destination) {
         return;
     }
     // The directory that is being taken away has the name of the one that is to be made.
-    if (cleaner)
-        connect(cleaner, &QObject::destroyed, copy.get(), [this] { prepare(); });
-    else
+    copy->waitsForCleaner = cleaner != nullptr;
+    if (!copy->waitsForCleaner)
         prepare();
 }
 
@@ -215,7 +218,19 @@ void DirCopier::cleanUpUnlessCopying(const QString &destination) {
     if (copy || cleaner)
         return;
     cleaner = new CopyProcess(CopyCommands::cleanUp(destination));
-    connect(cleaner, &QProcess::finished, cleaner, &QObject::deleteLater);
-    connect(cleaner, &QProcess::errorOccurred, cleaner, &QObject::deleteLater);
+    connect(cleaner, &QProcess::finished, this, &DirCopier::cleaned);
+    connect(
+        cleaner, &QProcess::errorOccurred, this,
+        [this](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart)
+                cleaned();
+        },
+        Qt::QueuedConnection);
     cleaner->start();
+}
+
+void DirCopier::cleaned() {
+    std::exchange(cleaner, nullptr)->deleteLater();
+    if (copy && std::exchange(copy->waitsForCleaner, false))
+        prepare();
 }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QObject>
-#include <QPointer>
 #include <QProcess>
 #include <QStringList>
 
@@ -70,9 +69,12 @@ private:
     void finishLater(int exitCode, QProcess::ExitStatus exitStatus);
     void finish(int exitCode, QProcess::ExitStatus exitStatus);
     void cleanUpUnlessCopying(const QString &destination);
+    void cleaned();
+    /// Whether it is gone.
+    bool endAndDelete(CopyProcess *process);
 
     /// The running copy, or null.
     std::unique_ptr<Copy> copy;
-    /// Takes away what a cancelled copy has left.
-    QPointer<CopyProcess> cleaner;
+    /// Takes away what a cancelled copy has left; null when nothing does.
+    CopyProcess *cleaner = nullptr;
 };
