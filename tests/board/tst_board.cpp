@@ -23,7 +23,7 @@ constexpr int longestHang = 120'000;
 constexpr QRect reportsIcon(459, 66, 302, 62);
 constexpr QRect soundIcon(459, 136, 302, 62);
 constexpr QRect troubleIcon(118, 346, 302, 62);
-constexpr QPoint nothingAtAll(440, 300);
+constexpr QPoint nothingAtAll(600, 380);
 /// On the slider that the icon of the sound opens.
 constexpr QPoint soundLevel(430, 94);
 constexpr QRect batteryPicture(8, 384, 64, 36);
@@ -227,14 +227,11 @@ void BoardTest::consoleAndTerminalDrawNothingOverIt() {
 }
 
 void BoardTest::touchLeavesNoPointer() {
-    const QRect around(nothingAtAll - QPoint(40, 40), QSize(80, 80));
-    const QImage before = screen().copy(around);
+    board->pressKey(u"f4"_s);
+    ZR_SOON(!differenceFrom(u"home"_s).isEmpty());
+    // It has been handled when the panel is gone.
     board->touch(nothingAtAll);
-    // The touch is handled before what is pressed after it.
-    board->pressKey(u"f4"_s);
-    ZR_SOON(screen().copy(around) != before);
-    board->pressKey(u"f4"_s);
-    ZR_SOON(screen().copy(around) == before);
+    ZR_SHOWS(u"home"_s);
 }
 
 void BoardTest::functionKeysDoTheirs() {

@@ -105,11 +105,15 @@ void VirtualBoard::touch(const QPoint &place) {
         sendInput(
             {{u"type"_s, u"btn"_s}, {u"data"_s, QJsonObject{{u"down"_s, down}, {u"button"_s, u"left"_s}}}});
     };
-    // The kernel tells where a finger is when that changes; a program that was started meanwhile would not know.
-    for (const QPoint &each : {QPoint(place.x() - 1, place.y() - 1), place}) {
-        move(u"x"_s, each.x(), screen.width());
-        move(u"y"_s, each.y(), screen.height());
-    }
+    const auto moveTo = [&](const QPoint &point) {
+        move(u"x"_s, point.x(), screen.width());
+        move(u"y"_s, point.y(), screen.height());
+    };
+    // The kernel tells where a finger is when that changes, and a program that was started meanwhile would not know. Two
+    // moves at once would be one for it.
+    moveTo(place / 2);
+    shell.run("sleep 0.2", 30'000);
+    moveTo(place);
     button(true);
     button(false);
 }
