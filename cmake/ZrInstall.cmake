@@ -1,6 +1,7 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 # Where things are installed. Every run path is relative to the file that holds it, so that the installed
-# tree may be moved as a whole.
+# tree may be moved as a whole. The build tree is laid out alike and has the same run paths: those that CMake would give
+# it end in a colon, and make every start look for each library in the working directory, too.
 #
 # What is installed belongs to one component, which becomes a package: launcher, plugins, dev or simulator.
 # What names none belongs to the launcher.
@@ -32,7 +33,7 @@ function(zr_install_library target)
     target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     set_target_properties(${target} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
-        EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN"
+        EXPORT_NAME ${arg_EXPORT_NAME} INSTALL_RPATH "$ORIGIN" BUILD_WITH_INSTALL_RPATH ON
         # One directory for all, as when they are installed: the dynamic linker looks for each library of Qt's in all of
         # ours first.
         LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${CMAKE_INSTALL_LIBDIR})

@@ -14,7 +14,8 @@ function(zr_add_plugin name)
     target_link_libraries(${name} PRIVATE zr_warnings launcherplugin ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/launcher)
     set_target_properties(${name} PROPERTIES
-        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ZR_PLUGIN_DIR} INSTALL_RPATH "$ORIGIN/../..")
+        LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${ZR_PLUGIN_DIR}
+        INSTALL_RPATH "$ORIGIN/../.." BUILD_WITH_INSTALL_RPATH ON)
     add_dependencies(shipped_plugins ${name})
     install(TARGETS ${name} LIBRARY DESTINATION ${ZR_PLUGIN_DIR} COMPONENT plugins)
 endfunction()
