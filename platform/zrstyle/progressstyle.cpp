@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleOptionProgressBar>
+#include <QtMath>
 
 namespace {
 
@@ -57,10 +58,13 @@ QRectF doneRect(const QStyleOptionProgressBar &option) {
 QPainterPath stripes(const QRectF &rect) {
     QPainterPath path;
     const qreal slant = rect.height();
-    for (qreal x = rect.left() - slant; x < rect.right(); x += 2 * stripeWidth)
+    const int count = qCeil((rect.width() + slant) / (2 * stripeWidth));
+    for (int i = 0; i < count; ++i) {
+        const qreal x = rect.left() - slant + i * 2 * stripeWidth;
         path.addPolygon(QPolygonF{QPointF(x, rect.bottom()), QPointF(x + slant, rect.top()),
                                   QPointF(x + slant + stripeWidth, rect.top()),
                                   QPointF(x + stripeWidth, rect.bottom()), QPointF(x, rect.bottom())});
+    }
     return path;
 }
 

@@ -49,7 +49,7 @@ std::optional<Orders> ordersIn(QStringList words) {
 /// Below the user's run-time directory, which is empty after each start of the machine. Empty when there is none.
 QString makeRunDirectory() {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const QString directory = runtime + "/zr-launcher"_L1;
+    QString directory = runtime + "/zr-launcher"_L1;
     if (!runtime.isEmpty() && QDir().mkpath(directory))
         return directory;
     std::fputs("There is no run-time directory (XDG_RUNTIME_DIR): failures are not remembered.\n", stderr);

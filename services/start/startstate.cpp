@@ -53,7 +53,7 @@ template <typename Value, typename Parse>
 bool appendAll(QList<Value> &values, const QJsonValue &array, Parse parse) {
     if (!array.isArray())
         return false;
-    for (const QJsonValue &entry : array.toArray()) {
+    for (const QJsonValue entry : array.toArray()) {
         const std::optional<Value> value = parse(entry.toObject());
         if (!value)
             return false;
