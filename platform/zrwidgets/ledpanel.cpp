@@ -40,21 +40,27 @@ bool fitsRow(FontSizes::PixelSize size, int rowHeight) {
     return 5 * size <= 4 * rowHeight;
 }
 
-/// The font in which the name fits, down to three fifths of its width; the rest is cut with an ellipsis.
-QFont fittingFont(const QFont &font, const QString &name, int width) {
+struct FittedName {
+    QFont font;
+    QString text;
+};
+
+/// The name set tighter until it fits, down to three fifths of its width; the rest is cut with an ellipsis.
+FittedName fittedName(const QFont &font, const QString &name, int width) {
     const int needed = QFontMetrics(font).horizontalAdvance(name);
     if (needed <= qMax(0, width))
-        return font;
+        return {font, name};
     QFont tight = font;
     // Hinting makes letters a little wider than their share. Few widths, for each of them takes memory.
     constexpr int step = 5;
     const int share = 100 * width / needed / step * step;
     for (int stretch = qMax(share, tightest); stretch >= tightest; stretch -= step) {
         tight.setStretch(stretch);
+        // Widths are rounded, and eliding would cut a name that only just fits.
         if (QFontMetrics(tight).horizontalAdvance(name) <= width)
-            break;
+            return {tight, name};
     }
-    return tight;
+    return {tight, QFontMetrics(tight).elidedText(name, Qt::ElideRight, width)};
 }
 
 } // namespace
@@ -227,16 +233,11 @@ void LedPanel::drawLed(QPainter *painter, const Led &led, const QRect &rect) con
     drawLamp(painter, QRect(rect.x(), rect.y(), lampWidth, rect.height()), led.quality,
              qMin<int>(letters - 2, largestLamp));
     const QRect textRect = nameRect(rect);
-    const QString name = shownPart(led.name);
-    const QFont font =
-        fittingFont(FontSizes::sized(this->font(), letters, QFont::Bold), name, textRect.width());
+    const auto [font, text] = fittedName(FontSizes::sized(this->font(), letters, QFont::Bold),
+                                         shownPart(led.name), textRect.width());
     painter->setFont(font);
     painter->setPen(palette().color(QPalette::Text));
-    // Widths are rounded, and eliding would cut a name that only just fits.
-    const QFontMetrics metrics(font);
-    const bool fits = metrics.horizontalAdvance(name) <= textRect.width();
-    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                      fits ? name : metrics.elidedText(name, Qt::ElideRight, textRect.width()));
+    painter->drawText(textRect, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, text);
 }
 
 void LedPanel::resizeEvent(QResizeEvent *) {
