@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// Counts by valgrind's tool callgrind how many instructions each phase takes, on standard output one figure a line, with
-// what they depend on besides: see docs/performance.md.
+// Counts by valgrind's tool callgrind how many instructions each phase takes: see docs/performance.md.
+//
+//   count-instructions             one figure a line, with what they depend on besides, as in instructions.baseline
+//   count-instructions --rows      rows of launcher and floor
 #include "benchmarkhome.h"
+#include "tablerow.h"
 
 #include <QFile>
 #include <QProcess>
@@ -9,6 +12,7 @@
 #include <QTextStream>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -48,27 +52,25 @@ qint64 instructionsOf(const QStringList &options, const QStringList &program,
     return match.captured(1).toLongLong();
 }
 
-void print(QTextStream &out, const QString &name, qint64 count) {
-    out << name.leftJustified(24) << QString::number(count).rightJustified(12) << '\n';
-    out.flush();
-}
+struct Count {
+    qint64 launcher = 0;
+    qint64 floor = 0;
+};
 
-void countStart(QTextStream &out, int plugins) {
+Count countStart(int plugins) {
     const BenchmarkHome home(plugins);
     QProcessEnvironment environment = home.fixedEnvironment();
     environment.insert(u"ZR_BENCH_START_NS"_s, u"0"_s);
     // All but what fontconfig reads before its first answer: its parser's hashes begin with a random number.
     const QStringList options{u"--toggle-collect=FcInit"_s, u"--collect-atstart=yes"_s};
-    const QString name = u"start-%1-plug-ins"_s.arg(plugins);
-    print(out, name, instructionsOf(options, {QStringLiteral(LAUNCHER)}, environment));
-    print(
-        out, name + "-floor"_L1,
-        instructionsOf(options, {QStringLiteral(FLOOR), QString::number(plugins), home.path()}, environment));
+    return {
+        instructionsOf(options, {QStringLiteral(LAUNCHER)}, environment),
+        instructionsOf(options, {QStringLiteral(FLOOR), QString::number(plugins), home.path()}, environment)};
 }
 
 /// Of one repetition: the median of three processes, since what memory looks like when the repetitions begin makes them
 /// all a little dearer or cheaper.
-void countRepaint(QTextStream &out, const QString &name, const QString &work, int repetitions) {
+qint64 countRepetition(const QString &work, int repetitions) {
     QList<qint64> counts;
     for (int process = 0; process < 3; ++process) {
         const BenchmarkHome home(0);
@@ -79,7 +81,37 @@ void countRepaint(QTextStream &out, const QString &name, const QString &work, in
             repetitions);
     }
     std::sort(counts.begin(), counts.end());
-    print(out, name, counts[1]);
+    return counts[1];
+}
+
+Count countRepaint(const QString &work, const QString &floorWork, int repetitions) {
+    return {countRepetition(work, repetitions), countRepetition(floorWork, repetitions)};
+}
+
+struct Phase {
+    QString name;
+    /// In the table.
+    QString title;
+    double unit;
+    std::function<Count()> count;
+};
+
+QList<Phase> phases() {
+    constexpr double thousand = 1e3;
+    constexpr double million = 1e6;
+    return {{u"start-0-plug-ins"_s, u"start, 0 plug-ins, million instructions"_s, million,
+             [] { return countStart(0); }},
+            {u"start-10-plug-ins"_s, u"start, 10 plug-ins, million instructions"_s, million,
+             [] { return countStart(10); }},
+            {u"page-switch"_s, u"page switch, thousand instructions"_s, thousand,
+             [] { return countRepaint(u"page-switch"_s, u"bare-page-switch"_s, switches); }},
+            {u"lamp"_s, u"changed lamp, thousand instructions"_s, thousand,
+             [] { return countRepaint(u"lamp"_s, u"bare-label"_s, lampChanges); }}};
+}
+
+void print(QTextStream &out, const QString &name, qint64 count) {
+    out << name.leftJustified(24) << QString::number(count).rightJustified(12) << '\n';
+    out.flush();
 }
 
 /// Which of its ways through memory and text the C library takes depends on the processor.
@@ -100,18 +132,31 @@ void printSurroundings(QTextStream &out) {
     out << "with processor " << processor() << '\n';
 }
 
-} // namespace
+void printRows() {
+    for (const Phase &phase : phases()) {
+        const Count count = phase.count();
+        printTableRow(phase.title, double(count.launcher) / phase.unit, double(count.floor) / phase.unit);
+    }
+}
 
-int main() {
+void printBaseline() {
     QTextStream out(stdout);
     out << "# Instructions that each phase takes, and the floor's. Renewed by: benchmarks/check-instructions "
            "renew\n";
-    for (const int plugins : {0, 10})
-        countStart(out, plugins);
-    countRepaint(out, u"page-switch"_s, u"page-switch"_s, switches);
-    countRepaint(out, u"page-switch-floor"_s, u"bare-page-switch"_s, switches);
-    countRepaint(out, u"lamp"_s, u"lamp"_s, lampChanges);
-    countRepaint(out, u"lamp-floor"_s, u"bare-label"_s, lampChanges);
+    for (const Phase &phase : phases()) {
+        const Count count = phase.count();
+        print(out, phase.name, count.launcher);
+        print(out, phase.name + "-floor"_L1, count.floor);
+    }
     printSurroundings(out);
+}
+
+} // namespace
+
+int main(int argc, char *argv[]) {
+    if (argc > 1 && QByteArray(argv[1]) == "--rows")
+        printRows();
+    else
+        printBaseline();
     return 0;
 }

@@ -5,6 +5,7 @@
 #include "median.h"
 #include "paintwatch.h"
 #include "processuse.h"
+#include "tablerow.h"
 #include "testconfig.h"
 
 #include <QApplication>
@@ -16,7 +17,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdio>
 #include <thread>
 
 using namespace Qt::Literals::StringLiterals;
@@ -61,7 +61,7 @@ void measureAnnouncement(LauncherWindow &window, PaintWatch &watch) {
         sendSignal(u"removed"_s, {u"gbe"_s, sn});
         runUntil([&] { return cardsOf(window).isEmpty(); });
     }
-    std::printf("card announcement to its page painted    %7.2f ms (median of 100)\n", median(times));
+    printTableRowWithoutFloor(u"card announced to its page and lamps painted, ms"_s, median(times));
 }
 
 void measureUpdate(FakeCard &card, PaintWatch &watch) {
@@ -77,7 +77,7 @@ void measureUpdate(FakeCard &card, PaintWatch &watch) {
         runUntil([&] { return watch.paintings() > before; });
         times.append(double(timer.nsecsElapsed()) / 1e6);
     }
-    std::printf("indicator update to LED painted           %7.2f ms (median of 200)\n", median(times));
+    printTableRowWithoutFloor(u"update on the wire to its lamp painted, ms"_s, median(times));
 }
 
 /// The longest time that an input event would have waited during a second of updates.
@@ -109,15 +109,13 @@ double longestWait(FakeCard &card, int updatesPerSecond, qint64 &sent) {
 }
 
 void measureRate(FakeCard &card) {
-    for (const int rate : {100, 1000, 3000, 10000, 30000}) {
-        qint64 sent = 0;
-        const double longest = longestWait(card, rate, sent);
-        std::printf("%6lld updates a second of 24 LEDs: an input event waits %7.2f ms at most\n",
-                    static_cast<long long>(sent), longest);
-    }
+    qint64 sent = 0;
+    const double longest = longestWait(card, 30000, sent);
+    printTableRowWithoutFloor(
+        u"an input event waits at most, %1 updates of 24 lamps in a second, ms"_s.arg(sent), longest);
 }
 
-void measurePanel(LauncherWindow &window, PaintWatch &watch) {
+void measurePanel(LauncherWindow &window) {
     LedPanel *const panel = ledPanelOf(window);
     for (const int number : {4, 24, 96}) {
         QStringList names;
@@ -135,12 +133,15 @@ void measurePanel(LauncherWindow &window, PaintWatch &watch) {
             window.updateLeds(states);
             QCoreApplication::processEvents();
         }
-        const double all = double(timer.nsecsElapsed()) / 1e6 / repetitions;
+        printTableRowWithoutFloor(u"%1 lamps all change and are painted, ms"_s.arg(number),
+                                  double(timer.nsecsElapsed()) / 1e6 / repetitions);
+        const PaintWatch watch(qApp);
         QList<QPair<QString, QString>> one{{u"L1"_s, u"history"_s}};
         window.updateLeds(one);
         QCoreApplication::processEvents();
-        std::printf("%3d LEDs: all change and are painted %6.3f ms; one change paints %d of %d pixels\n",
-                    number, all, watch.lastArea(), panel->width() * panel->height());
+        printTableRow(
+            u"one lamp of %1 changes, pixels painted of all widgets (floor: the panel)"_s.arg(number),
+            watch.area(), panel->width() * panel->height());
     }
 }
 
@@ -149,8 +150,8 @@ void measureRest() {
     const qint64 before = useOf(u"self"_s).wakeUps;
     QTimer::singleShot(seconds * 1000, qApp, &QCoreApplication::quit);
     QApplication::exec();
-    std::printf("at rest with three cards: %lld wake-ups a minute\n",
-                static_cast<long long>((useOf(u"self"_s).wakeUps - before) * 60 / seconds));
+    printTableRowWithoutFloor(u"wake-ups a minute at rest, three cards inserted"_s,
+                              double(useOf(u"self"_s).wakeUps - before) * 60 / seconds);
 }
 
 } // namespace
@@ -184,7 +185,7 @@ int main(int argc, char *argv[]) {
     });
     measureUpdate(e1, watch);
     measureRate(e1);
-    measurePanel(window, watch);
+    measurePanel(window);
     measureRest();
     return 0;
 }

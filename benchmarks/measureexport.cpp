@@ -8,6 +8,7 @@
 #include "flash/flashdialog.h"
 #include "flash/flashspy.h"
 #include "median.h"
+#include "tablerow.h"
 #include "testconfig.h"
 #include "ui/launcherwindow.h"
 
@@ -21,10 +22,8 @@
 #include <QTimer>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <chrono>
-#include <cstdio>
 #include <optional>
 #include <thread>
 #include <unistd.h>
@@ -170,29 +169,33 @@ void Desk::clearDrive() const {
     ::sync();
 }
 
-void measure(const Desk &desk, const char *title, int number) {
-    struct Way {
-        const char *name;
-        Run (Desk::*copy)() const;
-        QList<double> seconds = {};
-        QList<double> longestWaitsMs = {};
-    };
-    std::array ways{Way{"dd", &Desk::copyWithDd}, Way{"rsync", &Desk::copyWithRsync},
-                    Way{"launcher", &Desk::exportAsTheLauncher}};
-    for (int i = 0; i < number; ++i) {
-        for (Way &way : ways) {
+struct Way {
+    Run (Desk::*copy)() const;
+    QList<double> seconds = {};
+    QList<double> longestWaitsMs = {};
+
+    double worstWaitMs() const { return *std::max_element(longestWaitsMs.begin(), longestWaitsMs.end()); }
+};
+
+void measure(const Desk &desk, const QString &title, int runs) {
+    Way dd{&Desk::copyWithDd};
+    Way rsync{&Desk::copyWithRsync};
+    Way launcher{&Desk::exportAsTheLauncher};
+    for (int i = 0; i < runs; ++i) {
+        for (Way *const way : {&dd, &rsync, &launcher}) {
             desk.clearDrive();
-            const Run run = (desk.*way.copy)();
-            way.seconds.append(run.seconds);
-            way.longestWaitsMs.append(run.longestWaitMs);
+            const Run run = (desk.*way->copy)();
+            way->seconds.append(run.seconds);
+            way->longestWaitsMs.append(run.longestWaitMs);
         }
     }
-    const double limit = median(ways[0].seconds);
-    for (const Way &way : ways)
-        std::printf(
-            "%-22s %-9s %6.2f s  %5.2f times dd  an event waits at most %5.1f ms, in the worst run %5.1f\n",
-            title, way.name, median(way.seconds), median(way.seconds) / limit, median(way.longestWaitsMs),
-            *std::max_element(way.longestWaitsMs.begin(), way.longestWaitsMs.end()));
+    const double seconds = median(launcher.seconds);
+    printTableRow(title + u", s (floor: plain rsync)"_s, seconds, median(rsync.seconds));
+    printTableRow(title + u", s (floor: dd, as one file)"_s, seconds, median(dd.seconds));
+    printTableRow(title + u", an input event waits at most, ms (floor: beside rsync)"_s,
+                  median(launcher.longestWaitsMs), median(rsync.longestWaitsMs));
+    printTableRow(title + u", the same in the worst run, ms (floor: beside rsync)"_s, launcher.worstWaitMs(),
+                  rsync.worstWaitMs());
 }
 
 } // namespace
@@ -215,8 +218,8 @@ int main(int argc, char *argv[]) {
     const Desk desk(place.path(), window);
 
     desk.makeReports(5000, 20 * kilobyte);
-    measure(desk, "5,000 files of 20 KiB", runs);
+    measure(desk, u"export of 5,000 files of 20 KiB"_s, runs);
     desk.makeReports(1, 500 * megabyte);
-    measure(desk, "one file of 500 MiB", runs);
+    measure(desk, u"export of one file of 500 MiB"_s, runs);
     return 0;
 }

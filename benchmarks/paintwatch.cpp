@@ -2,20 +2,26 @@
 #include "paintwatch.h"
 
 #include <QPaintEvent>
-
-#include <algorithm>
+#include <QWidget>
 
 PaintWatch::PaintWatch(QObject *watched) {
     watched->installEventFilter(this);
 }
 
+int PaintWatch::area() const {
+    int pixels = 0;
+    for (const QRegion &region : painted) {
+        for (const QRect &rect : region)
+            pixels += rect.width() * rect.height();
+    }
+    return pixels;
+}
+
 bool PaintWatch::eventFilter(QObject *object, QEvent *event) {
     // The widget's window is asked to paint, too.
     if (event->type() == QEvent::Paint && object->isWidgetType()) {
-        const QRect rect = static_cast<QPaintEvent *>(event)->region().boundingRect();
         ++count;
-        last = rect.width() * rect.height();
-        largest = std::max(largest, last);
+        painted[static_cast<const QWidget *>(object)] += static_cast<QPaintEvent *>(event)->region();
     }
     return QObject::eventFilter(object, event);
 }

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QHash>
 #include <QObject>
+#include <QRegion>
 
-/// Sees how much of a widget is painted again, or of every widget when it watches the application.
+class QWidget;
+
+/// Sees what of a widget is painted again, or of every widget when it watches the application.
 class PaintWatch : public QObject {
     Q_OBJECT
 
@@ -11,14 +15,14 @@ public:
     explicit PaintWatch(QObject *watched);
 
     int paintings() const { return count; }
-    /// In pixels.
-    int lastArea() const { return last; }
-    int largestArea() const { return largest; }
+    /// In pixels, of all widgets together; what lies over another counts for both.
+    int area() const;
+    /// What has been painted of each widget since the watch began, in the widget's own coordinates.
+    const QHash<const QWidget *, QRegion> &regions() const { return painted; }
 
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
     int count = 0;
-    int last = 0;
-    int largest = 0;
+    QHash<const QWidget *, QRegion> painted;
 };

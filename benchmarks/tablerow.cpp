@@ -16,6 +16,10 @@ QString figure(double value) {
 void printTableRow(const QString &what, double launcher, double floor, const QString &aim, double limit) {
     const QString verdict = launcher <= limit ? u"met"_s : u"missed"_s;
     QTextStream(stdout) << "| " << what << " | " << figure(launcher) << " | " << figure(floor) << " | "
-                        << figure(launcher / floor) << " | " << aim << " | "
+                        << (floor > 0 ? figure(launcher / floor) : u"none"_s) << " | " << aim << " | "
                         << (aim.isEmpty() ? QString() : verdict) << " |\n";
+}
+
+void printTableRowWithoutFloor(const QString &what, double launcher) {
+    QTextStream(stdout) << "| " << what << " | " << figure(launcher) << " | none |  |  |  |\n";
 }
