@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <iostream>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
@@ -23,6 +24,33 @@ bool isSilent() {
 
 } // namespace
 
+/// One attempt to connect, in a thread of its own.
+class SessionBus::Attempt : public QThread {
+public:
+    /// Without a name it is for the connection that is the process's own.
+    explicit Attempt(const QString &connectionName = QString()) : name(connectionName) {}
+    ~Attempt() override { wait(); }
+
+    /// Once it has ended: whether the bus has answered.
+    bool isAnswered() const { return answered; }
+
+    const QString name;
+
+protected:
+    void run() override {
+        answered = !isSilent();
+        if (!answered)
+            return;
+        if (name.isEmpty())
+            QDBusConnection::sessionBus();
+        else
+            QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
+    }
+
+private:
+    bool answered = false;
+};
+
 SessionBus *SessionBus::instance() {
     static QPointer<SessionBus> bus;
     if (!bus)
@@ -35,27 +63,21 @@ SessionBus::SessionBus(QObject *parent) : QObject(parent), current(QString()) {
     nextAttempt.setInterval(pauseBetweenAttempts);
     connect(&nextAttempt, SIGNAL(timeout()), this, SLOT(beginAttempt()));
     // Hands are shaken while the window is made.
-    firstAttempt = std::async(std::launch::async, [] {
-        const bool answers = !isSilent();
-        if (answers)
-            QDBusConnection::sessionBus();
-        return answers;
-    });
+    attempt = std::make_unique<Attempt>();
+    attempt->start();
 }
 
-SessionBus::~SessionBus() {
-    if (attempt)
-        attempt->wait();
-}
+SessionBus::~SessionBus() = default;
 
 QDBusConnection SessionBus::connection() {
-    if (firstAttempt.valid())
+    if (std::exchange(isFirstAttempt, false))
         endFirstAttempt();
     return current;
 }
 
 void SessionBus::endFirstAttempt() {
-    if (!firstAttempt.get()) {
+    attempt->wait();
+    if (!attempt->isAnswered()) {
         std::cerr << "The D-Bus session bus does not answer; waiting for it." << std::endl;
         nextAttempt.start();
         return;
@@ -73,26 +95,22 @@ void SessionBus::watch() {
 void SessionBus::lose() {
     std::cerr << "The D-Bus session bus is lost; waiting for a new one." << std::endl;
     // The process's own connection stays in Qt's hands, and never works again.
-    if (!attemptedName.isEmpty())
-        QDBusConnection::disconnectFromBus(attemptedName);
+    if (!attempt->name.isEmpty())
+        QDBusConnection::disconnectFromBus(attempt->name);
     nextAttempt.start();
 }
 
 void SessionBus::beginAttempt() {
-    attemptedName = u"zr-launcher-%1"_s.arg(++attemptCount);
-    attempt.reset(QThread::create([name = attemptedName] {
-        if (!isSilent())
-            QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-    }));
+    attempt = std::make_unique<Attempt>(u"zr-launcher-%1"_s.arg(++attemptCount));
     connect(attempt.get(), SIGNAL(finished()), this, SLOT(endAttempt()));
     attempt->start();
 }
 
 void SessionBus::endAttempt() {
     attempt->wait();
-    const QDBusConnection found(attemptedName);
+    const QDBusConnection found(attempt->name);
     if (!found.isConnected()) {
-        QDBusConnection::disconnectFromBus(attemptedName);
+        QDBusConnection::disconnectFromBus(attempt->name);
         nextAttempt.start();
         return;
     }

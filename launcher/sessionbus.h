@@ -5,10 +5,7 @@
 #include <QObject>
 #include <QTimer>
 
-#include <future>
 #include <memory>
-
-class QThread;
 
 /// The launcher's connection to the session bus: that of the process, and once it is lost a new one, as soon as there is
 /// a bus at the address again.
@@ -36,15 +33,16 @@ private slots:
     void endAttempt();
 
 private:
+    class Attempt;
+
     explicit SessionBus(QObject *parent);
     void endFirstAttempt();
     void watch();
 
-    std::future<bool> firstAttempt;
     QDBusConnection current;
     QTimer nextAttempt;
     /// Connecting takes its time, which is not the screen's.
-    std::unique_ptr<QThread> attempt;
-    QString attemptedName;
+    std::unique_ptr<Attempt> attempt;
+    bool isFirstAttempt = true;
     int attemptCount = 0;
 };

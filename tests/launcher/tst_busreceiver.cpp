@@ -3,9 +3,9 @@
 
 #include <QSignalSpy>
 #include <QTest>
-#include <QThread>
 
-#include <memory>
+#include <atomic>
+#include <thread>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -83,15 +83,16 @@ void BusReceiverTest::floodIsOverWhenNothingCame() {
 void BusReceiverTest::everySignalOfAnotherThreadIsTakenOrCounted() {
     constexpr int number = 20'000;
     BusReceiver receiver;
-    const std::unique_ptr<QThread> sender(QThread::create([&] {
+    std::atomic<bool> isSent = false;
+    std::thread sender([&] {
         for (int i = 1; i <= number; ++i)
             take(receiver, u"inserted"_s, i);
-    }));
-    sender->start();
+        isSent = true;
+    });
     QStringList taken;
-    while (!sender->isFinished())
+    while (!isSent)
         taken += takeAll(receiver);
-    sender->wait();
+    sender.join();
     taken += takeAll(receiver);
     QCOMPARE(taken.size() + receiver.takeCount(), qsizetype(number));
     receiver.releaseNewest();

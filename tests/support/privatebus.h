@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QProcess>
+#include <QString>
+
+#include <sys/types.h>
 
 /// A bus of the test's own, apart from the session bus.
 class PrivateBus {
@@ -9,6 +11,8 @@ public:
     /// At a socket of that name, or at an address of the bus's choice.
     explicit PrivateBus(const QString &socket = QString());
     ~PrivateBus() { end(); }
+    PrivateBus(const PrivateBus &) = delete;
+    PrivateBus &operator=(const PrivateBus &) = delete;
 
     /// Empty when the bus did not come up.
     QString address() const { return busAddress; }
@@ -24,6 +28,10 @@ public:
 private:
     bool start(const QString &address);
 
-    QProcess daemon;
+    void send(int signal) const;
+    void waitUntilEnded();
+
+    /// 0 when none runs.
+    pid_t daemon = 0;
     QString busAddress;
 };

@@ -1,19 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "cards/cardsmanager.h"
 
-#include "debuglines.h"
+#include "bussender.h"
 #include "launcherfixture.h"
 
 #include <warningwindow.h>
 
-#include <QProcess>
 #include <QSignalSpy>
 
 #include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
-/// Signals on a real bus, sent by another process.
+/// Signals on a real bus, sent by another of its connections.
 class CardsOnTheBusTest : public QObject {
     Q_OBJECT
 
@@ -28,14 +27,14 @@ private slots:
     void longTextsArrive();
 
 private:
-    static void send(const QString &path, const QString &member, const QStringList &arguments) {
-        QCOMPARE(QProcess::execute(u"dbus-send"_s, QStringList{u"--session"_s, path, member} + arguments), 0);
+    void send(const QString &name, const QVariantList &arguments) const {
+        QVERIFY(sender.send(u"/"_s, u"zr.card"_s, name, arguments));
     }
-    static void insert(const QString &name, const QString &sn) {
-        send(u"/"_s, u"zr.card.inserted"_s,
-             {"string:"_L1 + name, "int32:"_L1 + sn, u"string:unix:/nowhere"_s, u"string:"_s});
+    void insert(const QString &type, int sn) const {
+        send(u"inserted"_s, {type, sn, u"unix:/nowhere"_s, QString()});
     }
 
+    const BusSender sender;
     TestConfig config;
     std::unique_ptr<LauncherWindow> window;
     std::unique_ptr<QSignalSpy> inserted;
@@ -54,59 +53,54 @@ void CardsOnTheBusTest::init() {
 }
 
 void CardsOnTheBusTest::signalsInsertAndRemoveACard() {
-    insert(u"gbe"_s, u"-2147483648"_s);
+    insert(u"gbe"_s, std::numeric_limits<int>::min());
     QTRY_COMPARE(inserted->size(), 1);
     QCOMPARE(inserted->first(),
              QVariantList({u"gbe"_s, std::numeric_limits<int>::min(), u"unix:/nowhere"_s, QString()}));
-    send(u"/"_s, u"zr.card.removed"_s, {u"string:gbe"_s, u"int32:-2147483648"_s});
+    send(u"removed"_s, {u"gbe"_s, std::numeric_limits<int>::min()});
     QTRY_COMPARE(removed->size(), 1);
     QCOMPARE(removed->first(), QVariantList({u"gbe"_s, std::numeric_limits<int>::min()}));
 }
 
 void CardsOnTheBusTest::otherSignalsAreNotHeard_data() {
     QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("member");
-    QTest::addColumn<QStringList>("arguments");
-    const QStringList right{u"string:e1"_s, u"int32:1"_s, u"string:x"_s, u"string:y"_s};
-    QTest::newRow("other path") << u"/card"_s << u"zr.card.inserted"_s << right;
-    QTest::newRow("other interface") << u"/"_s << u"zr.cards.inserted"_s << right;
-    QTest::newRow("other name") << u"/"_s << u"zr.card.plugged"_s << right;
-    QTest::newRow("too few arguments") << u"/"_s << u"zr.card.inserted"_s << right.first(2);
-    QTest::newRow("number as text") << u"/"_s << u"zr.card.inserted"_s
-                                    << QStringList{u"string:e1"_s, u"string:1"_s, u"string:x"_s,
-                                                   u"string:y"_s};
-    QTest::newRow("unsigned number") << u"/"_s << u"zr.card.inserted"_s
-                                     << QStringList{u"string:e1"_s, u"uint32:1"_s, u"string:x"_s,
-                                                    u"string:y"_s};
-    QTest::newRow("table instead of text")
-        << u"/"_s << u"zr.card.inserted"_s
-        << QStringList{u"dict:string:int32:a,1"_s, u"int32:1"_s, u"string:x"_s, u"string:y"_s};
-    QTest::newRow("table instead of a number")
-        << u"/"_s << u"zr.card.inserted"_s
-        << QStringList{u"string:e1"_s, u"dict:string:int32:a,1"_s, u"string:x"_s, u"string:y"_s};
-    QTest::newRow("one argument too many")
-        << u"/"_s << u"zr.card.inserted"_s << right + QStringList{u"string:z"_s};
-    QTest::newRow("removal of a table")
-        << u"/"_s << u"zr.card.removed"_s << QStringList{u"dict:string:int32:a,1"_s, u"int32:1"_s};
-    QTest::newRow("removal without a number")
-        << u"/"_s << u"zr.card.removed"_s << QStringList{u"string:e1"_s};
-    QTest::newRow("no arguments") << u"/"_s << u"zr.card.inserted"_s << QStringList();
+    QTest::addColumn<QString>("interface");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QVariantList>("arguments");
+    const QVariantList right{u"e1"_s, 1, u"x"_s, u"y"_s};
+    const QVariantMap table{{u"a"_s, 1}};
+    QTest::newRow("other path") << u"/card"_s << u"zr.card"_s << u"inserted"_s << right;
+    QTest::newRow("other interface") << u"/"_s << u"zr.cards"_s << u"inserted"_s << right;
+    QTest::newRow("other name") << u"/"_s << u"zr.card"_s << u"plugged"_s << right;
+    const auto card = [](const char *row, const QString &name, const QVariantList &arguments) {
+        QTest::newRow(row) << u"/"_s << u"zr.card"_s << name << arguments;
+    };
+    card("too few arguments", u"inserted"_s, right.first(2));
+    card("number as text", u"inserted"_s, {u"e1"_s, u"1"_s, u"x"_s, u"y"_s});
+    card("unsigned number", u"inserted"_s, {u"e1"_s, 1U, u"x"_s, u"y"_s});
+    card("table instead of text", u"inserted"_s, {table, 1, u"x"_s, u"y"_s});
+    card("table instead of a number", u"inserted"_s, {u"e1"_s, table, u"x"_s, u"y"_s});
+    card("one argument too many", u"inserted"_s, right + QVariantList{u"z"_s});
+    card("removal of a table", u"removed"_s, {table, 1});
+    card("removal without a number", u"removed"_s, {u"e1"_s});
+    card("no arguments", u"inserted"_s, {});
 }
 
 void CardsOnTheBusTest::otherSignalsAreNotHeard() {
     QFETCH(QString, path);
-    QFETCH(QString, member);
-    QFETCH(QStringList, arguments);
-    send(path, member, arguments);
+    QFETCH(QString, interface);
+    QFETCH(QString, name);
+    QFETCH(QVariantList, arguments);
+    QVERIFY(sender.send(path, interface, name, arguments));
     // Signals keep their order: when this one is there, the other one has been passed over.
-    insert(u"gbe"_s, u"2"_s);
+    insert(u"gbe"_s, 2);
     QTRY_COMPARE(inserted->size(), 1);
     QCOMPARE(inserted->first().first().toString(), u"gbe"_s);
     QCOMPARE(removed->size(), 0);
 }
 
 void CardsOnTheBusTest::unknownTypeIsToldOverTheBus() {
-    insert(u"e2"_s, u"1"_s);
+    insert(u"e2"_s, 1);
     QTRY_VERIFY(window->findChild<WarningWindow *>());
     QVERIFY(window->findChild<WarningWindow *>()->isVisible());
     QVERIFY(inserted->isEmpty());
@@ -114,8 +108,7 @@ void CardsOnTheBusTest::unknownTypeIsToldOverTheBus() {
 
 void CardsOnTheBusTest::longTextsArrive() {
     const QString longText(64 * 1024, u'x');
-    send(u"/"_s, u"zr.card.inserted"_s,
-         {u"string:e1"_s, u"int32:1"_s, "string:"_L1 + longText, "string:"_L1 + longText});
+    send(u"inserted"_s, {u"e1"_s, 1, longText, longText});
     QTRY_COMPARE(inserted->size(), 1);
     QCOMPARE(inserted->first()[2].toString(), longText);
 }

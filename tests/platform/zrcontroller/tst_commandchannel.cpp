@@ -9,6 +9,7 @@
 #include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::Literals::StringLiterals;
@@ -58,15 +59,13 @@ void CommandChannelTest::replyThatComesAfterTheLineWasOpenedAnewIsDropped() {
     QCOMPARE(channel.send(u"versions"_s).kind, CommandChannel::Outcome::Failed);
     // Its time is over; the card answers everything while the next commands wait.
     channel.setTimeLimit(2000ms);
-    QThread *const releasing = QThread::create([&card] {
+    std::thread releasing([&card] {
         while (card.commands().size() < 2)
             QThread::yieldCurrentThread();
         card.release();
     });
-    releasing->start();
     const CommandChannel::Outcome outcome = channel.send(u"options"_s);
-    releasing->wait();
-    delete releasing;
+    releasing.join();
     QCOMPARE(outcome.kind, CommandChannel::Outcome::Answered);
     QCOMPARE(outcome.text, u"right"_s);
     const QList<QByteArray> commands = card.commands();
