@@ -18,6 +18,7 @@
 #include <QDebug>
 #include <QFont>
 #include <QLocale>
+#include <QPixmapCache>
 #include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
@@ -25,6 +26,8 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int screenWidth = 800;
+/// All icons of a few pages, by day and by night. Those of cards that have gone stay until the room is used up.
+constexpr int pictureCacheKibibytes = 2048;
 
 QStringList wordsOf(int argc, char *argv[]) {
     QStringList words;
@@ -42,6 +45,7 @@ void loadTranslation(QTranslator &translator) {
 }
 
 void dress() {
+    QPixmapCache::setCacheLimit(pictureCacheKibibytes);
     QApplication::setFont(QFont(u"Liberation Sans"_s));
     ColourChoice::wear(ColourChoice::stored());
     QApplication::setStyle(new StyleOverride(QApplication::style()));

@@ -32,6 +32,11 @@ qint64 residentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * ::sysconf(_SC_PAGESIZE);
 }
 
+qint64 allocatedBytes() {
+    const struct mallinfo2 allocated = ::mallinfo2();
+    return static_cast<qint64>(allocated.uordblks + allocated.hblkhd);
+}
+
 QString textOf(const Holdings::Counts &counts) {
     return u"%1 widgets, %2 objects, %3 descriptors, %4 match rules"_s.arg(counts.widgets)
         .arg(counts.objects)
@@ -44,13 +49,15 @@ QString textOf(const Holdings::Counts &counts) {
 Holdings holdingsOf(const QObject &window) {
     return {{QApplication::allWidgets().size(), window.findChildren<QObject *>().size(),
              QDir(u"/proc/self/fd"_s).entryList().size(), matchRules()},
-            residentBytes()};
+            residentBytes(),
+            allocatedBytes()};
 }
 
 QString differenceBetween(const Holdings &before, const Holdings &after, qint64 mostGrowthBytes) {
     const qint64 growth = after.residentBytes - before.residentBytes;
-    qInfo("resident memory grew by %lld bytes, to %lld", static_cast<long long>(growth),
-          static_cast<long long>(after.residentBytes));
+    qInfo("resident memory grew by %lld bytes, to %lld; what is in use by %lld",
+          static_cast<long long>(growth), static_cast<long long>(after.residentBytes),
+          static_cast<long long>(after.allocatedBytes - before.allocatedBytes));
     if (before.counts.matchRules <= 0)
         return u"the bus does not count match rules"_s;
     if (after.counts != before.counts)

@@ -20,7 +20,9 @@ struct Holdings {
     };
 
     Counts counts;
+    /// What the kernel gave, and of that what is in use: the rest lies between pieces that are.
     qint64 residentBytes;
+    qint64 allocatedBytes;
 };
 
 Holdings holdingsOf(const QObject &window);

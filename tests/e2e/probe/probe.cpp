@@ -257,7 +257,7 @@ QStringList Probe::holdings() const {
     const Holdings held = holdingsOf(*LauncherWindow::instance());
     QStringList numbers;
     for (const qint64 number : {held.counts.widgets, held.counts.objects, held.counts.descriptors,
-                                held.counts.matchRules, held.residentBytes})
+                                held.counts.matchRules, held.residentBytes, held.allocatedBytes})
         numbers.append(QString::number(number));
     return numbers;
 }
