@@ -4,6 +4,7 @@
 #include "testconfig.h"
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QTest>
 
@@ -90,7 +91,10 @@ void InstalledBatteryTest::batteryIsShownAgainAfter() {
     else if (fault != "vanished"_L1)
         QVERIFY(QFile::remove(apm()));
     QVERIFY(LauncherProcess::simulate(u"battery set 50"_s));
+    QElapsedTimer clock;
+    clock.start();
     QTRY_VERIFY(shows(u"50%"_s));
+    qInfo("right again after %lld ms", static_cast<long long>(clock.elapsed()));
     QCOMPARE(launcher->stop(), 0);
 }
 

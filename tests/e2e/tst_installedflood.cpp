@@ -28,7 +28,7 @@ constexpr qint64 mostGrowthOfManyKilobytes = 32 * 1024;
 
 /// Where the processors have other work to do as well.
 constexpr std::chrono::seconds longestSending(std::chrono::seconds time) {
-    return 2 * time;
+    return IS_SANITIZED ? 2 * time : time + 2s;
 }
 
 /// What the kernel counts for a process.
@@ -150,9 +150,8 @@ void InstalledFloodTest::waitUntilSent(QProcess &flood, std::chrono::seconds tim
     const QList<QByteArray> sent = flood.readAllStandardOutput().trimmed().split(' ');
     qInfo("%s signals in %s ms", sent.value(0).constData(), sent.value(1).constData());
     QCOMPARE(sent.value(0).toLongLong(), qint64(signalsASecond) * time.count());
-    QVERIFY2(
-        std::chrono::milliseconds(sent.value(1).toLongLong()) < longestSending(time),
-        "no flood: it was to take its time, and no more than double on two busy cores or under a sanitizer");
+    QVERIFY2(std::chrono::milliseconds(sent.value(1).toLongLong()) < longestSending(time),
+             "no flood: it was to take its time and little more, or no more than double under a sanitizer");
 }
 
 void InstalledFloodTest::announcementsCountAgain() {
