@@ -26,12 +26,18 @@ constexpr QRect troubleIcon(118, 346, 302, 62);
 constexpr QPoint nothingAtAll(600, 380);
 /// On the slider that the icon of the sound opens.
 constexpr QPoint soundLevel(430, 94);
+constexpr QRect lamps(3, 64, 71, 311);
 constexpr QRect batteryPicture(8, 384, 64, 36);
 /// Never the same.
 constexpr QRect clockPicture(690, 0, 110, 56);
+constexpr QRect datePicture(690, 30, 110, 26);
 /// Load, memory and uptime of the information panel, and the network's names.
 constexpr QRect informationValues(190, 266, 270, 204);
-/// The ring around the icon that has the focus, which is the one that was touched last.
+constexpr int traceCount = 120;
+constexpr int traceSize = 400'000;
+/// What is free for reports.
+constexpr QRect freeSpace(290, 430, 90, 32);
+/// The ring around the icon that has the focus, which is the one that was touched last, or around the lamps.
 constexpr int ringWidth = 6;
 
 } // namespace
@@ -50,12 +56,17 @@ private slots:
     void consoleAndTerminalDrawNothingOverIt();
     void touchLeavesNoPointer();
     void functionKeysDoTheirs();
+    void keysOfTheConsoleDoNothing();
     void homeKeyLeavesAWindow();
     void soundLevelIsSet();
     void batteryIsThatOfTheKernel();
     void cardComesAndGoes();
+    void clockThatJumpsAYearStopsNothing_data();
+    void clockThatJumpsAYearStopsNothing();
     void driveTakesTheReportsAway();
     void pulledDriveHoldsWholeFilesOnly();
+    void drivePulledBeforeIsFilled();
+    void packagesAreInstalledAgainUnderTheLauncher();
     void crashedLauncherComesBack();
     void troublePluginIsOnThePage();
     void firstFunctionKeysReachWindowsOnTheRelease();
@@ -66,6 +77,7 @@ private slots:
     void yesPowersTheBoardOff();
     void homePageIsShownAt600Lines();
     void nothingIsDrawnOverItAt600Lines();
+    void removedPackagesLeaveTheTerminal();
 
 private:
     static std::unique_ptr<VirtualBoard> newBoard(int lines) {
@@ -82,8 +94,9 @@ private:
     QByteArray launcherProcess() const { return output("pgrep -x zr-launcher"); }
     QByteArray journal() const { return output("journalctl -b --no-pager -o cat -u zr-launcher"); }
 
-    /// The screen without its clock, and without what else varies for the time being.
-    QImage screen() const;
+    /// Without the clock, and without what else varies for the time being.
+    QImage steady(QImage picture) const;
+    QImage screen() const { return steady(board->picture()); }
     QString fileOf(const QString &picture) const {
         return QStringLiteral(BOARD_PICTURES "/%1-%2.png").arg(picture).arg(board->screenSize().height());
     }
@@ -96,6 +109,7 @@ private:
     void restartLauncher() const;
     void writeOnConsoleAndTerminal() const;
     void drawNothingOver(const QString &picture);
+    void showAndHideInformation();
 
     std::unique_ptr<VirtualBoard> board;
     /// From the picture that was waited for last, and what was there instead.
@@ -103,6 +117,8 @@ private:
     QImage lastScreen;
     QRect varying;
     QTemporaryDir directory;
+    /// Pulled in the middle, and used again.
+    std::unique_ptr<UsbDrive> drive;
 };
 
 /// Unlike QTRY_VERIFY it looks at the clock: asking a board takes longer than the pause between two questions.
@@ -114,15 +130,20 @@ namespace {
 QImage withoutFocus(QImage picture) {
     QPainter painter(&picture);
     painter.setPen(QPen(Qt::black, 2 * ringWidth));
-    for (const QRect &icon : {reportsIcon, soundIcon, troubleIcon})
+    for (const QRect &icon : {reportsIcon, soundIcon, troubleIcon, lamps})
         painter.drawRect(icon);
     return picture;
 }
 
+QMap<QString, QByteArray> tracesOn(const UsbDrive &drive) {
+    QMap<QString, QByteArray> files = drive.contents();
+    files.removeIf([](auto file) { return !file.key().startsWith("reports/traces/"_L1); });
+    return files;
+}
+
 } // namespace
 
-QImage BoardTest::screen() const {
-    QImage picture = board->picture();
+QImage BoardTest::steady(QImage picture) const {
     QPainter painter(&picture);
     painter.fillRect(clockPicture, Qt::black);
     painter.fillRect(varying, Qt::black);
@@ -145,7 +166,7 @@ QString BoardTest::differenceFrom(const QString &picture) {
         screen().save(file);
     }
     lastScreen = screen();
-    const QImage reference = QImage(file).convertToFormat(QImage::Format_RGB32);
+    const QImage reference = steady(QImage(file).convertToFormat(QImage::Format_RGB32));
     const QString found = blockDifference(withoutFocus(lastScreen), withoutFocus(reference));
     return found.isEmpty() ? QString() : u"not %1: %2"_s.arg(file, found);
 }
@@ -234,6 +255,15 @@ void BoardTest::touchLeavesNoPointer() {
     ZR_SHOWS(u"home"_s);
 }
 
+void BoardTest::showAndHideInformation() {
+    board->pressKey(u"f4"_s);
+    varying = informationValues;
+    ZR_SHOWS(u"information"_s);
+    varying = QRect();
+    board->pressKey(u"f4"_s);
+    ZR_SHOWS(u"home"_s);
+}
+
 void BoardTest::functionKeysDoTheirs() {
     constexpr char brightness[] = "cat /sys/devices/platform/pmmcu.0/brightness";
     QCOMPARE(output("echo 100 >/sys/devices/platform/pmmcu.0/brightness; "_ba + brightness), "100");
@@ -244,17 +274,30 @@ void BoardTest::functionKeysDoTheirs() {
     board->pressKey(u"f3"_s);
     ZR_SOON(output(brightness) == "255");
 
-    board->pressKey(u"f4"_s);
-    varying = informationValues;
-    ZR_SHOWS(u"information"_s);
-    varying = QRect();
-    board->pressKey(u"f4"_s);
-    ZR_SHOWS(u"home"_s);
+    showAndHideInformation();
+}
+
+/// With them the kernel changes terminals, on which systemd then starts a login prompt, and systemd restarts the machine.
+void BoardTest::keysOfTheConsoleDoNothing() {
+    const QByteArray before = output("cat /proc/sys/kernel/random/boot_id");
+    for (const QStringList &keys : {QStringList{u"alt"_s, u"f2"_s},
+                                    {u"ctrl"_s, u"alt"_s, u"f3"_s},
+                                    {u"ctrl"_s, u"alt"_s, u"delete"_s}}) {
+        board->pressTogether(keys);
+        // They have been handled when the panel is there.
+        showAndHideInformation();
+    }
+    QCOMPARE(output("cat /sys/class/tty/tty0/active"), "tty1");
+    QCOMPARE(output("systemctl is-active getty@tty1 getty@tty2 getty@tty3"), "inactive\ninactive\ninactive");
+    QCOMPARE(output("systemctl is-system-running"), "running");
+    QCOMPARE(output("cat /proc/sys/kernel/random/boot_id"), before);
 }
 
 void BoardTest::homeKeyLeavesAWindow() {
     board->touch(reportsIcon.center());
+    varying = freeSpace;
     ZR_SHOWS(u"reports"_s);
+    varying = QRect();
     board->pressKey(u"home"_s);
     ZR_SHOWS(u"home"_s);
 }
@@ -285,6 +328,30 @@ void BoardTest::cardComesAndGoes() {
     ZR_SHOWS(u"home"_s);
 }
 
+void BoardTest::clockThatJumpsAYearStopsNothing_data() {
+    QTest::addColumn<int>("seconds");
+    constexpr int year = 365 * 24 * 3600;
+    QTest::newRow("forward") << year;
+    QTest::newRow("back") << -year;
+}
+
+/// The kernel's own clock: all programs on the board see it.
+void BoardTest::clockThatJumpsAYearStopsNothing() {
+    QFETCH(int, seconds);
+    const QByteArray before = launcherProcess();
+    const auto date = [this] { return board->picture().copy(datePicture); };
+    const auto signOfLife = [this] {
+        return output("systemctl show -P WatchdogTimestampMonotonic zr-launcher");
+    };
+    const QImage dateBefore = date();
+    const QByteArray lastSign = signOfLife();
+    QCOMPARE(board->run("date -s @$(($(date +%s) + " + QByteArray::number(seconds) + "))").status, 0);
+    ZR_SOON(date() != dateBefore);
+    ZR_SOON(signOfLife() != lastSign);
+    cardComesAndGoes();
+    QCOMPARE(launcherProcess(), before);
+}
+
 void BoardTest::driveTakesTheReportsAway() {
     asInstrument("sh -c 'mkdir -p ~/reports/traces; echo one >~/reports/one.txt; "
                  "for i in 1 2 3 4 5; do head -c 300000 /dev/zero >~/reports/traces/$i; done'");
@@ -306,39 +373,51 @@ void BoardTest::driveTakesTheReportsAway() {
 }
 
 void BoardTest::pulledDriveHoldsWholeFilesOnly() {
-    constexpr int fileSize = 400'000;
-    constexpr int fileCount = 120;
-    asInstrument("sh -c 'mkdir -p ~/reports/traces; for i in $(seq 1 " + QByteArray::number(fileCount) +
-                 "); do head -c " + QByteArray::number(fileSize) +
+    asInstrument("sh -c 'mkdir -p ~/reports/traces; for i in $(seq 1 " + QByteArray::number(traceCount) +
+                 "); do head -c " + QByteArray::number(traceSize) +
                  " /dev/zero | tr \"\\000\" x >~/reports/traces/$i; done'");
-    const UsbDrive drive(directory.filePath(u"drive"_s), 64);
-    board->plugDrive(drive.file());
+    drive = std::make_unique<UsbDrive>(directory.filePath(u"drive"_s), 64);
+    board->plugDrive(drive->file());
     ZR_SHOWS(u"question"_s);
     board->pressKey(u"ret"_s);
-    ZR_SOON(output("ls /media/*/reports/traces | wc -l").toInt() > 5);
-    // What the kernel has written out by itself when the drive is pulled is a matter of luck; this much is certain.
-    output("sync -f /media/*");
+    // Looked at from outside: what the kernel still keeps to itself is lost.
+    ZR_SOON(tracesOn(*drive).size() > 5);
     QVERIFY(board->pullDrive());
     ZR_SHOWS(u"pulled"_s);
     board->pressKey(u"ret"_s);
     ZR_SHOWS(u"home"_s);
     ZR_SOON(output("ls /media").isEmpty());
 
-    int whole = 0;
-    const QMap<QString, QByteArray> files = drive.contents();
-    for (auto file = files.cbegin(); file != files.cend(); ++file) {
-        if (!file.key().startsWith("reports/traces/"_L1))
-            continue;
-        QCOMPARE(file.value(), QByteArray(fileSize, 'x'));
-        ++whole;
-    }
-    QVERIFY2(whole > 5 && whole < fileCount, QByteArray::number(whole));
-    asInstrument("sh -c 'rm -r ~/reports'");
+    // FAT has a new name written before the place of the data is: at most one, which was being given its name, has none yet.
+    QMap<QString, QByteArray> traces = tracesOn(*drive);
+    QVERIFY2(traces.size() > 5 && traces.size() < traceCount, QByteArray::number(traces.size()));
+    QVERIFY(traces.removeIf([](auto trace) { return trace.value().isEmpty(); }) <= 1);
+    for (const QByteArray &trace : traces)
+        QCOMPARE(trace, QByteArray(traceSize, 'x'));
+}
 
-    board->plugDrive(drive.file());
+void BoardTest::drivePulledBeforeIsFilled() {
+    board->plugDrive(drive->file());
     ZR_SHOWS(u"question"_s);
-    QVERIFY(board->pullDrive());
+    board->pressKey(u"ret"_s);
     ZR_SHOWS(u"home"_s);
+    QVERIFY(board->pullDrive());
+    ZR_SOON(output("ls /media").isEmpty());
+    const QMap<QString, QByteArray> traces = tracesOn(*drive);
+    QCOMPARE(traces.size(), traceCount);
+    for (const QByteArray &trace : traces)
+        QCOMPARE(trace, QByteArray(traceSize, 'x'));
+    asInstrument("sh -c 'rm -r ~/reports'");
+}
+
+/// As in an upgrade, while somebody uses the instrument.
+void BoardTest::packagesAreInstalledAgainUnderTheLauncher() {
+    const QByteArray before = launcherProcess();
+    const GuestShell::Result installed = board->run("dpkg --install /var/cache/zr-packages/*.deb", longest);
+    QVERIFY2(installed.status == 0, installed.output);
+    QVERIFY(isStartedAnew(before, longest));
+    ZR_SHOWS(u"home"_s);
+    everyUnitIsWell();
 }
 
 void BoardTest::crashedLauncherComesBack() {
@@ -393,6 +472,7 @@ void BoardTest::launcherThatTakesAllMemoryComesBack() {
     QVERIFY(output("dmesg").contains("Memory cgroup out of memory: Killed process " + launcher));
     QCOMPARE(output("dmesg | grep -c 'Killed process'"), "1");
     QVERIFY(journal().contains("code=exited, status=137"));
+    drawNothingOver(u"trouble"_s);
     QCOMPARE(board->run("rm /run/zr-session/eat").status, 0);
 }
 
@@ -438,6 +518,17 @@ void BoardTest::nothingIsDrawnOverItAt600Lines() {
     consoleAndTerminalDrawNothingOverIt();
     touchLeavesNoPointer();
     ZR_SHOWS(u"home"_s);
+}
+
+void BoardTest::removedPackagesLeaveTheTerminal() {
+    const GuestShell::Result removed =
+        board->run("dpkg --remove zr-launcher zr-launcher-plugins zr-launcher-simulator", longest);
+    QVERIFY2(removed.status == 0, removed.output);
+    QCOMPARE(output("systemctl is-active zr-launcher zr-session-bus zr-flash-service"),
+             "inactive\ninactive\ninactive");
+    QCOMPARE(launcherProcess(), "");
+    QCOMPARE(output("systemctl start getty@tty1; systemctl is-active getty@tty1"), "active");
+    ZR_SOON(!differenceFrom(u"home"_s).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(BoardTest)

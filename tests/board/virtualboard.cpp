@@ -78,17 +78,11 @@ QImage VirtualBoard::picture() {
     return QImage(file).convertToFormat(QImage::Format_RGB32);
 }
 
-void VirtualBoard::pressKey(const QString &key) {
-    holdKey(key);
-    releaseKey(key);
-}
-
-void VirtualBoard::holdKey(const QString &key) {
-    sendKey(key, true);
-}
-
-void VirtualBoard::releaseKey(const QString &key) {
-    sendKey(key, false);
+void VirtualBoard::pressTogether(const QStringList &keys) {
+    for (const QString &key : keys)
+        sendKey(key, true);
+    for (auto key = keys.crbegin(); key != keys.crend(); ++key)
+        sendKey(*key, false);
 }
 
 void VirtualBoard::sendKey(const QString &key, bool down) {

@@ -29,9 +29,8 @@ public:
     QImage picture();
 
     /// A key by the emulator's name for it, for instance "f4".
-    void pressKey(const QString &key);
-    void holdKey(const QString &key);
-    void releaseKey(const QString &key);
+    void pressKey(const QString &key) { pressTogether({key}); }
+    void pressTogether(const QStringList &keys);
     void touch(const QPoint &place);
 
     /// Plugs a flash drive in whose contents are the file `drive`; it stays one until it is pulled.
