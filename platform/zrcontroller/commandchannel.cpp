@@ -96,6 +96,7 @@ bool CommandChannel::write(const QString &command, QDeadlineTimer deadline) {
 CommandChannel::Outcome CommandChannel::awaitReply(QDeadlineTimer deadline) {
     ReplyReader reader;
     QIODevice *const device = line->device();
+    bool isLastLook = false;
     while (true) {
         const QByteArray waiting = device->peek(device->bytesAvailable());
         device->skip(reader.feed(waiting));
@@ -105,8 +106,10 @@ CommandChannel::Outcome CommandChannel::awaitReply(QDeadlineTimer deadline) {
             return fail(tr("The card's reply has no end."));
         if (!line->isOpen() && waiting.isEmpty())
             return fail(tr("The card closed the line."));
-        if (deadline.hasExpired())
+        if (isLastLook)
             return missReply(reader);
+        // Once the time is over, what has come by then is still looked at.
+        isLastLook = deadline.hasExpired();
         device->waitForReadyRead(static_cast<int>(deadline.remainingTime()));
     }
 }

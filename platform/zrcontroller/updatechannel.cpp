@@ -83,7 +83,10 @@ void UpdateChannel::takeWaiting() {
 
 bool UpdateChannel::waitForUpdate(QDeadlineTimer deadline) {
     const quint64 seenBefore = updatesSeen;
-    while (line && line->isOpen() && updatesSeen == seenBefore && !deadline.hasExpired())
+    // Once the time is over, what has come by then is still looked at.
+    for (bool isLastLook = false; line && line->isOpen() && updatesSeen == seenBefore && !isLastLook;) {
+        isLastLook = deadline.hasExpired();
         line->device()->waitForReadyRead(static_cast<int>(deadline.remainingTime()));
+    }
     return updatesSeen != seenBefore;
 }
