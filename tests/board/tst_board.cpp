@@ -14,10 +14,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// A crash at the start is found at the third time, after pauses of one and two seconds.
-constexpr int longest = 90'000;
-/// The watchdog's time and the trace's, a stop and a start.
-constexpr int longestHang = 120'000;
+/// Several times what the slowest of it takes: a machine may be slow, and busy.
+constexpr int longest = 180'000;
+constexpr int longestInstallation = 600'000;
 
 /// Where the page at 480 lines has what is touched.
 constexpr QRect reportsIcon(459, 66, 302, 62);
@@ -190,7 +189,7 @@ bool BoardTest::isStartedAnew(const QByteArray &processBefore, int milliseconds)
 }
 
 void BoardTest::restartLauncher() const {
-    QCOMPARE(board->run("systemctl restart zr-launcher", longestHang).status, 0);
+    QCOMPARE(board->run("systemctl restart zr-launcher", longest).status, 0);
 }
 
 void BoardTest::initTestCase() {
@@ -413,7 +412,8 @@ void BoardTest::drivePulledBeforeIsFilled() {
 /// As in an upgrade, while somebody uses the instrument.
 void BoardTest::packagesAreInstalledAgainUnderTheLauncher() {
     const QByteArray before = launcherProcess();
-    const GuestShell::Result installed = board->run("dpkg --install /var/cache/zr-packages/*.deb", longest);
+    const GuestShell::Result installed =
+        board->run("dpkg --install /var/cache/zr-packages/*.deb", longestInstallation);
     QVERIFY2(installed.status == 0, installed.output);
     QVERIFY(isStartedAnew(before, longest));
     ZR_SHOWS(u"home"_s);
@@ -452,7 +452,7 @@ void BoardTest::firstFunctionKeysReachWindowsOnTheRelease() {
 void BoardTest::hangingLauncherComesBackWithATrace() {
     const QByteArray before = launcherProcess();
     board->touch(troubleIcon.center());
-    QVERIFY(isStartedAnew(before, longestHang));
+    QVERIFY(isStartedAnew(before, longest));
     ZR_SHOWS(u"trouble"_s);
     QVERIFY(journal().contains("TroublePlugin::hang()"));
     drawNothingOver(u"trouble"_s);
@@ -482,7 +482,7 @@ void BoardTest::pluginThatCrashesAtEveryStartIsLeftOut() {
     QCOMPARE(board
                  ->run("systemctl stop zr-launcher && rm -f /run/zr-session/zr-launcher/crashes.json && "
                        "touch /run/zr-session/crash && systemctl start --no-block zr-launcher",
-                       longestHang)
+                       longest)
                  .status,
              0);
     ZR_SOON(output("systemctl is-active zr-launcher") == "active");
@@ -521,8 +521,8 @@ void BoardTest::nothingIsDrawnOverItAt600Lines() {
 }
 
 void BoardTest::removedPackagesLeaveTheTerminal() {
-    const GuestShell::Result removed =
-        board->run("dpkg --remove zr-launcher zr-launcher-plugins zr-launcher-simulator", longest);
+    const GuestShell::Result removed = board->run(
+        "dpkg --remove zr-launcher zr-launcher-plugins zr-launcher-simulator", longestInstallation);
     QVERIFY2(removed.status == 0, removed.output);
     QCOMPARE(output("systemctl is-active zr-launcher zr-session-bus zr-flash-service"),
              "inactive\ninactive\ninactive");

@@ -12,8 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int powerOffTime = 90'000;
-constexpr int pullTime = 10'000;
+constexpr int powerOffTime = 180'000;
+constexpr int pullTime = 60'000;
 /// The emulator's absolute coordinates go from 0 to this.
 constexpr int touchRange = 0x7fff;
 
@@ -79,25 +79,29 @@ QImage VirtualBoard::picture() {
 }
 
 void VirtualBoard::pressTogether(const QStringList &keys) {
+    const auto event = [](const QString &key, bool down) {
+        const QJsonObject code{{u"type"_s, u"qcode"_s}, {u"data"_s, key}};
+        return QJsonObject{{u"type"_s, u"key"_s},
+                           {u"data"_s, QJsonObject{{u"down"_s, down}, {u"key"_s, code}}}};
+    };
+    QJsonArray events;
     for (const QString &key : keys)
-        sendKey(key, true);
+        events.append(event(key, true));
     for (auto key = keys.crbegin(); key != keys.crend(); ++key)
-        sendKey(*key, false);
-}
-
-void VirtualBoard::sendKey(const QString &key, bool down) {
-    const QJsonObject code{{u"type"_s, u"qcode"_s}, {u"data"_s, key}};
-    sendInput({{u"type"_s, u"key"_s}, {u"data"_s, QJsonObject{{u"down"_s, down}, {u"key"_s, code}}}});
+        events.append(event(*key, false));
+    // At once: the board repeats a key that is down for a quarter of a second.
+    sendInput(events);
 }
 
 void VirtualBoard::touch(const QPoint &place) {
     const auto move = [this](const QString &axis, int value, int size) {
-        sendInput({{u"type"_s, u"abs"_s},
-                   {u"data"_s, QJsonObject{{u"axis"_s, axis}, {u"value"_s, value * touchRange / size}}}});
+        sendInput({QJsonObject{
+            {u"type"_s, u"abs"_s},
+            {u"data"_s, QJsonObject{{u"axis"_s, axis}, {u"value"_s, value * touchRange / size}}}}});
     };
     const auto button = [this](bool down) {
-        sendInput(
-            {{u"type"_s, u"btn"_s}, {u"data"_s, QJsonObject{{u"down"_s, down}, {u"button"_s, u"left"_s}}}});
+        sendInput({QJsonObject{{u"type"_s, u"btn"_s},
+                               {u"data"_s, QJsonObject{{u"down"_s, down}, {u"button"_s, u"left"_s}}}}});
     };
     const auto moveTo = [&](const QPoint &point) {
         move(u"x"_s, point.x(), screen.width());
@@ -112,8 +116,8 @@ void VirtualBoard::touch(const QPoint &place) {
     button(false);
 }
 
-void VirtualBoard::sendInput(const QJsonObject &event) {
-    control.execute(u"input-send-event"_s, {{u"events"_s, QJsonArray{event}}});
+void VirtualBoard::sendInput(const QJsonArray &events) {
+    control.execute(u"input-send-event"_s, {{u"events"_s, events}});
 }
 
 void VirtualBoard::plugDrive(const QString &drive) {

@@ -22,7 +22,7 @@ public:
     /// Whether it switched itself off; a restart does not count.
     bool waitForPowerOff();
 
-    GuestShell::Result run(const QByteArray &command, int milliseconds = 30'000);
+    GuestShell::Result run(const QByteArray &command, int milliseconds = 120'000);
 
     const QSize &screenSize() const { return screen; }
     /// What the screen shows; a null image when it cannot be had.
@@ -40,8 +40,7 @@ public:
 
 private:
     QStringList machine() const;
-    void sendInput(const QJsonObject &event);
-    void sendKey(const QString &key, bool down);
+    void sendInput(const QJsonArray &events);
 
     const QString architecture;
     const QString image;

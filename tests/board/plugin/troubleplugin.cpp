@@ -9,6 +9,8 @@
 #include <QKeySequence>
 #include <QThread>
 
+#include <thread>
+
 namespace {
 
 QString fileOf(const QString &name) {
@@ -58,9 +60,11 @@ void TroublePlugin::note(const QKeyEvent *key) const {
 }
 
 void TroublePlugin::makeTrouble() {
+    // Beside the window, which goes on with its signs of life: it may take longer than they may.
     if (isWanted(QStringLiteral("eat")))
-        takeAllMemory();
-    hang();
+        std::thread([this] { takeAllMemory(); }).detach();
+    else
+        hang();
 }
 
 void TroublePlugin::takeAllMemory() {
