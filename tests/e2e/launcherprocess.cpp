@@ -15,8 +15,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int longestStartMs = 20'000;
-
 bool isProbeThere() {
     return QDBusConnection::sessionBus().interface()->isServiceRegistered(u"zr.probe"_s);
 }

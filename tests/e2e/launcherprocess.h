@@ -11,8 +11,9 @@
 /// The installed launcher as a process, and the probe inside it.
 class LauncherProcess {
 public:
-    /// A press that takes longer was held up.
-    static constexpr std::chrono::milliseconds longestPress{500};
+    static constexpr int longestStartMs = 20'000;
+    /// A press that takes longer was held up: by what never ends, or by a bus that lets each attempt wait for a second.
+    static constexpr std::chrono::milliseconds longestPress{900};
 
     LauncherProcess();
     /// Ends the process if it still runs.

@@ -87,7 +87,9 @@ void InstalledCardsTest::cardsComeGoAndSwitchTheirModes() {
     QVERIFY(launcher.press(u"Сигнализация"_s));
     QTRY_VERIFY(launcher.leds().contains(u"LOMF:1"_s));
     const QStringList news = commandsOf(u"e1-101"_s).mid(before101) + commandsOf(u"e1-102"_s).mid(before102);
-    QCOMPARE(news, QStringList({u"operation sa"_s, u"parameters"_s, u"status alarms"_s, u"status alarms"_s}));
+    // A card that once was slow to tell its alarms is not asked as often.
+    QCOMPARE(news.first(3), QStringList({u"operation sa"_s, u"parameters"_s, u"status alarms"_s}));
+    QCOMPARE(news.count(u"status alarms"_s), news.size() - 2);
 
     // The page of the card that goes is left.
     const QString shown = commandsOf(u"e1-101"_s).size() > before101 ? u"e1-101"_s : u"e1-102"_s;
@@ -196,8 +198,9 @@ void InstalledCardsTest::launcherWithoutABusShowsTheCardsThatAreThere() {
         errors += launcher.readAllStandardError();
         return errors.contains(line);
     };
-    QTRY_VERIFY2(told("No connection to the D-Bus session bus.\n"), errors);
-    QTRY_VERIFY2(told("new card inserted"), errors);
+    QTRY_VERIFY2_WITH_TIMEOUT(told("No connection to the D-Bus session bus.\n"), errors,
+                              LauncherProcess::longestStartMs);
+    QTRY_VERIFY2_WITH_TIMEOUT(told("new card inserted"), errors, LauncherProcess::longestStartMs);
     QTRY_VERIFY(commandsOf(u"e1-401"_s).contains(u"parameters"_s));
     launcher.terminate();
     launcher.waitForFinished();

@@ -347,7 +347,8 @@ void InstalledCrashTest::managerHearsTheLauncherItself() {
     launcher->environment.insert(u"NOTIFY_SOCKET"_s, manager.path());
     // The manager knows the start program's process only.
     launcher->environment.insert(u"WATCHDOG_PID"_s, u"1"_s);
-    launcher->environment.insert(u"WATCHDOG_USEC"_s, u"100000"_s);
+    // Not so often that the socket is full before the test reads it: the launcher would wait for the test.
+    launcher->environment.insert(u"WATCHDOG_USEC"_s, u"2000000"_s);
     QVERIFY2(launcher->start({launcherProgram}), launcher->errors());
     QTRY_VERIFY(manager.messages().contains("WATCHDOG=1"));
     QCOMPARE(manager.messages().first(), QByteArray("READY=1"));

@@ -325,6 +325,7 @@ void InstalledFlashTest::keysOfTheInstrumentWorkBesideTheQuestion() {
     QVERIFY(display.key({u"Home"_s}));
     QVERIFY(display.key({u"Pause"_s}));
     QTRY_COMPARE(launcher->message(), text("QObject", "Do you really mean to power off device?"));
+    QTRY_VERIFY(launcher->isActive());
     QVERIFY(display.key({u"Escape"_s}));
     QTRY_COMPARE(launcher->message(), question());
     QTRY_VERIFY(launcher->isActive());
@@ -337,11 +338,13 @@ void InstalledFlashTest::keysOfTheInstrumentWorkBesideTheQuestion() {
     flash({u"remove"_s});
     QTRY_COMPARE(stored(u"dir"_s), QString());
     beginToCopy(u"sda1"_s);
+    QTRY_VERIFY(launcher->isActive());
     QVERIFY(display.key({u"Escape"_s}));
     QVERIFY(display.key({u"Pause"_s}));
     QTRY_COMPARE(launcher->message(), text("QObject", "Do you really mean to power off device?"));
     QTRY_COMPARE_WITH_TIMEOUT(readFiles(host(u"/media/sda1/reports"_s)), reports(), copyTime);
     QTRY_VERIFY(isRsyncGone());
+    QTRY_VERIFY(launcher->isActive());
     QVERIFY(display.key({u"Escape"_s}));
     QTRY_COMPARE_WITH_TIMEOUT(launcher->message(), QString(), copyTime);
     QTRY_COMPARE(stored(u"save"_s), u"true"_s);

@@ -38,7 +38,10 @@ private:
     static QString sudoLog() { return qEnvironmentVariable("HOME") + "/sudo.log"_L1; }
     void start();
     void openChoiceOfSettings();
-    void press(const QString &key) const { QVERIFY(display.key({key})); }
+    void press(const QString &key) const {
+        QTRY_VERIFY(launcher->isActive());
+        QVERIFY(display.key({key}));
+    }
 
     TestConfig config;
     XServer display;

@@ -4,8 +4,9 @@
 using namespace Qt::Literals::StringLiterals;
 
 XServer::XServer() {
-    server.start(u"Xvfb"_s,
-                 {u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s, u"800x600x24"_s, u"-nolisten"_s, u"tcp"_s});
+    // In milliseconds: a key is repeated when it is held, not when the program that lets it go has to wait.
+    server.start(u"Xvfb"_s, {u"-ardelay"_s, u"3000"_s, u"-displayfd"_s, u"1"_s, u"-screen"_s, u"0"_s,
+                             u"800x600x24"_s, u"-nolisten"_s, u"tcp"_s});
     if (server.waitForReadyRead())
         displayName = u':' + QString::fromLatin1(server.readLine().trimmed());
 }

@@ -175,7 +175,8 @@ void Probe::closePopup() const {
 }
 
 bool Probe::isActive() const {
-    return QApplication::activeWindow();
+    const QWidget *const modal = QApplication::activeModalWidget();
+    return modal ? modal->isActiveWindow() : QApplication::activeWindow() != nullptr;
 }
 
 bool Probe::hasPicture(const QString &name) const {
