@@ -50,11 +50,15 @@ void TerminationSignalsTest::signalEndsTheLauncherAndItsChildrenInOrder() {
     launcher.setProcessEnvironment(environment);
     launcher.start(QStringLiteral(LAUNCHER), QStringList());
     QByteArray errors;
-    QTRY_VERIFY_WITH_TIMEOUT((errors += launcher.readAllStandardError()).contains(sign), longestStartMs);
+    pid_t child = 0;
+    const auto isUp = [&] {
+        errors += launcher.readAllStandardError();
+        const QRegularExpression line(u"child (\\d+)\n"_s);
+        child = line.match(QString::fromLocal8Bit(errors)).captured(1).toInt();
+        return child > 0 && errors.contains(sign);
+    };
+    QTRY_VERIFY_WITH_TIMEOUT(isUp(), longestStartMs);
     QTRY_VERIFY_WITH_TIMEOUT(socket.messages().contains("READY=1"), longestStartMs);
-    const pid_t child =
-        QRegularExpression(u"child (\\d+)"_s).match(QString::fromLocal8Bit(errors)).captured(1).toInt();
-    QVERIFY(child > 0);
     QCOMPARE(::kill(child, 0), 0);
 
     ::kill(static_cast<pid_t>(launcher.processId()), signal);

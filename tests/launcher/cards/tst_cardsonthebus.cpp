@@ -3,6 +3,7 @@
 
 #include "bussender.h"
 #include "launcherfixture.h"
+#include "sessionbus.h"
 
 #include <warningwindow.h>
 
@@ -48,6 +49,7 @@ void CardsOnTheBusTest::init() {
     window = std::make_unique<LauncherWindow>();
     window->show();
     auto *const manager = window->findChild<CardsManager *>();
+    QTRY_VERIFY(SessionBus::instance()->connection().isConnected());
     inserted = std::make_unique<QSignalSpy>(manager, &CardsManager::cardIsInserted);
     removed = std::make_unique<QSignalSpy>(manager, &CardsManager::cardIsRemoved);
 }

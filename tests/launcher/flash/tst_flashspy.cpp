@@ -2,6 +2,7 @@
 #include "flash/flashspy.h"
 
 #include "bussender.h"
+#include "sessionbus.h"
 #include "testconfig.h"
 #include "zrlauncherconfig.h"
 
@@ -50,6 +51,7 @@ private:
 void FlashSpyTest::init() {
     config = TestConfig();
     spy = std::make_unique<FlashSpy>(nullptr);
+    QTRY_VERIFY(SessionBus::instance()->connection().isConnected());
     inserted = std::make_unique<QSignalSpy>(spy.get(), &FlashSpy::flashInserted);
     removed = std::make_unique<QSignalSpy>(spy.get(), &FlashSpy::flashRemoved);
     failed = std::make_unique<QSignalSpy>(spy.get(), &FlashSpy::mountFailed);

@@ -60,7 +60,7 @@ void CommandChannelTest::replyThatComesAfterTheLineWasOpenedAnewIsDropped() {
     // Its time is over; the card answers everything while the next commands wait.
     channel.setTimeLimit(2000ms);
     std::thread releasing([&card] {
-        while (card.commands().size() < 2)
+        while (card.commands().isEmpty() || card.commands().constLast() == "versions")
             QThread::yieldCurrentThread();
         card.release();
     });
