@@ -9,6 +9,8 @@ function(zr_add_test name)
     add_executable(${name} ${arg_SOURCES})
     target_link_libraries(${name} PRIVATE zr_warnings Qt6::Test ${arg_LIBRARIES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/support)
+    # Nothing is looked for there, and the name of a real directory keeps a compiler cache from serving another checkout.
+    set_target_properties(${name} PROPERTIES QT_TESTCASE_BUILDDIR .)
     set(support ${PROJECT_SOURCE_DIR}/tests/support)
     set(place $<$<BOOL:${arg_MOUNTS}>:${support}/where-it-may-mount>)
     add_test(NAME ${name} COMMAND ${place} ${support}/isolated $<TARGET_FILE:${name}> COMMAND_EXPAND_LISTS)
