@@ -80,7 +80,7 @@ only, and scripts that run the shell as an instrument with them.")
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_DEPENDS dbus)
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_RECOMMENDS "dosfstools, imagemagick, x11vnc, xdotool, xvfb, zr-launcher")
 
-# Units that are started at boot; the others are started by these.
+# All units, and those of them that are started at boot; the others are started by these.
 file(GLOB units ${PROJECT_SOURCE_DIR}/packaging/systemd/*.service.in)
 set(UNITS)
 set(ENABLED_UNITS)

@@ -343,9 +343,9 @@ void BoardTest::clockThatJumpsAYearStopsNothing() {
         return output("systemctl show -P WatchdogTimestampMonotonic zr-launcher");
     };
     const QImage dateBefore = date();
-    const QByteArray lastSign = signOfLife();
     QCOMPARE(board->run("date -s @$(($(date +%s) + " + QByteArray::number(seconds) + "))").status, 0);
     ZR_SOON(date() != dateBefore);
+    const QByteArray lastSign = signOfLife();
     ZR_SOON(signOfLife() != lastSign);
     cardComesAndGoes();
     QCOMPARE(launcherProcess(), before);
@@ -396,6 +396,7 @@ void BoardTest::pulledDriveHoldsWholeFilesOnly() {
 }
 
 void BoardTest::drivePulledBeforeIsFilled() {
+    QVERIFY2(drive, "it comes after pulledDriveHoldsWholeFilesOnly");
     board->plugDrive(drive->file());
     ZR_SHOWS(u"question"_s);
     board->pressKey(u"ret"_s);

@@ -87,9 +87,10 @@ void InstalledCardsTest::cardsComeGoAndSwitchTheirModes() {
     QVERIFY(launcher.press(u"Сигнализация"_s));
     QTRY_VERIFY(launcher.leds().contains(u"LOMF:1"_s));
     const QStringList news = commandsOf(u"e1-101"_s).mid(before101) + commandsOf(u"e1-102"_s).mid(before102);
-    // A card that once was slow to tell its alarms is not asked as often.
-    QCOMPARE(news.first(3), QStringList({u"operation sa"_s, u"parameters"_s, u"status alarms"_s}));
-    QCOMPARE(news.count(u"status alarms"_s), news.size() - 2);
+    const QStringList usual{u"operation sa"_s, u"parameters"_s, u"status alarms"_s};
+    // A card that was slow to tell its alarms is not asked twice.
+    QVERIFY2(news == usual || news == usual + QStringList{u"status alarms"_s},
+             qPrintable(news.join(u", "_s)));
 
     // The page of the card that goes is left.
     const QString shown = commandsOf(u"e1-101"_s).size() > before101 ? u"e1-101"_s : u"e1-102"_s;

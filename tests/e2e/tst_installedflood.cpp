@@ -26,7 +26,7 @@ constexpr qint64 mostGrowthKilobytes = 24 * 1024;
 /// it would be more.
 constexpr qint64 mostGrowthOfManyKilobytes = 32 * 1024;
 
-/// Where the processors have other work to do as well.
+/// All signals in their time and little more; a sanitizer takes its own.
 constexpr std::chrono::seconds longestSending(std::chrono::seconds time) {
     return IS_SANITIZED ? 2 * time : time + 2s;
 }

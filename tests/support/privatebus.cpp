@@ -25,6 +25,8 @@ pid_t spawn(QByteArrayList words, QFile &output) {
     posix_spawn_file_actions_t actions;
     ::posix_spawn_file_actions_init(&actions);
     ::posix_spawn_file_actions_adddup2(&actions, pipe[1], STDOUT_FILENO);
+    // Left behind by a test that crashed, it would keep the test's own open.
+    ::posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
     pid_t process = 0;
     const int error = ::posix_spawnp(&process, arguments[0], &actions, nullptr, arguments.data(), environ);
     ::posix_spawn_file_actions_destroy(&actions);
