@@ -3,11 +3,11 @@
 
 # Nothing of ours is in it.
 make_clean_root() {
-    [ -f "$cache/bookworm.tar" ] && return 0
+    [ -f "$cache/minbase.tar" ] && return 0
     mkdir -p "$cache"
-    mmdebstrap --quiet --variant=minbase --components=main --aptopt='APT::Install-Recommends "false"' \
-        bookworm "$cache/bookworm.tar.part" "$mirror"
-    mv "$cache/bookworm.tar.part" "$cache/bookworm.tar"
+    mmdebstrap --quiet --format=tar --variant=minbase --components=main --aptopt='APT::Install-Recommends "false"' \
+        bookworm "$cache/minbase.tar.part" "$mirror"
+    mv "$cache/minbase.tar.part" "$cache/minbase.tar"
 }
 
 inside() { chroot "$root" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LC_ALL=C DEBIAN_FRONTEND=noninteractive "$@"; }
@@ -25,7 +25,7 @@ offer() {
 make_base() {
     root=$work/base
     mkdir "$root" "$work/downloads"
-    tar -C "$root" --exclude=./dev/* -xf "$cache/bookworm.tar"
+    tar -C "$root" --exclude=./dev/* -xf "$cache/minbase.tar"
     for device in null zero random urandom; do
         [ -e "$root/dev/$device" ] || cp -a "/dev/$device" "$root/dev/"
     done
