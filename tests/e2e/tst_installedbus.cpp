@@ -254,7 +254,8 @@ void InstalledBusTest::silentBusIsWaitedForBesideTheScreen() {
     QElapsedTimer sinceTheSignal;
     sinceTheSignal.start();
     QCOMPARE(launcher->stop(), 0);
-    QVERIFY(sinceTheSignal.elapsed() < 20'000);
+    // The unit waits 15 seconds for it.
+    QVERIFY(sinceTheSignal.elapsed() < 10'000);
 }
 
 void InstalledBusTest::silentBusAtTheStartIsWaitedFor() {
@@ -264,7 +265,9 @@ void InstalledBusTest::silentBusAtTheStartIsWaitedFor() {
     {
         const SilentServer server(socket());
         QVERIFY2(launcher->start(), launcher->errors());
-        qInfo("shown after %lld ms", static_cast<long long>(sinceTheStart.elapsed()));
+        const auto shown = sinceTheStart.elapsed();
+        qInfo("shown after %lld ms", static_cast<long long>(shown));
+        QVERIFY2(shown < 8'000, "it was called more than once, a second each, before anything was shown");
     }
     QTRY_VERIFY(launcher->errors().contains("The D-Bus session bus does not answer; waiting for it.\n"));
     QVERIFY(bus->restart());

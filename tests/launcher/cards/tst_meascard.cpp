@@ -362,7 +362,7 @@ void MeasCardTest::windowAnswersWhileTheCardBabblesAndStorms() {
     timer.start();
     QTRY_COMPARE_WITH_TIMEOUT(panel->quality(u"LOS"_s), Bad, 30'000);
     // Far more than it takes, so that a busy machine does not matter; a nested wait would be ten seconds.
-    QVERIFY2(longestPause < 9000, qPrintable(QString::number(longestPause)));
+    QVERIFY2(longestPause < 4000, qPrintable(QString::number(longestPause)));
 }
 
 void MeasCardTest::identityIsKept() {
